@@ -1,0 +1,7 @@
+#include "common/tamfx/Object.h"
+
+namespace TAMFx::Data {
+
+Object::~Object() = default;
+
+} // namespace TAMFx::Data

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "common/tamfx/Export.h"
+
+namespace TAMFx::Data {
+
+/** Base of everything that a collection may store and free as an object. */
+class TAMFX_EXPORT Object
+{
+public:
+    Object() = default;
+    Object(const Object&) = default;
+    Object& operator=(const Object&) = default;
+    virtual ~Object();
+};
+
+} // namespace TAMFx::Data

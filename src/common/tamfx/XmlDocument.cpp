@@ -1,0 +1,77 @@
+#include "common/tamfx/XmlDocument.h"
+
+#include "common/tamfx/FileAccess.h"
+#include "common/tamfx/NodeList.h"
+#include "common/tamfx/XmlTreeBuilder.h"
+
+#include <cstring>
+#include <memory>
+#include <new>
+#include <string>
+#include <vector>
+
+namespace TAMFx::Common::Xml {
+
+XmlDocument::XmlDocument()
+    : Node(FromFile(), "")
+{
+}
+
+XmlDocument::~XmlDocument()
+{
+    XmlDocument::removeAll();
+}
+
+bool XmlDocument::LoadXMLFile(const char* pszPath)
+{
+    removeAll();
+    std::string strContent;
+    if (!pszPath || readFile(pszPath, strContent) != 0)
+        return false;
+    const char* pszSlash = std::strrchr(pszPath, '/');
+    XmlTreeBuilder::build(pszSlash ? pszSlash + 1 : pszPath, strContent, *this);
+    return true;
+}
+
+NodeList* XmlDocument::getNodeListByName(const char* pszName) const
+{
+    if (getChildNodeSize() == 0)
+        return nullptr;
+    auto pFound = std::make_unique<NodeList>();
+    struct Level
+    {
+        const Node* pParent;
+        int nNext;
+    };
+    std::vector<Level> path = {{this, 0}};
+    while (pszName && !path.empty()) {
+        Node* pNode = path.back().pParent->getChildNode(path.back().nNext++);
+        if (!pNode) {
+            path.pop_back();
+            continue;
+        }
+        if (std::strcmp(pNode->getName(), pszName) == 0)
+            pFound->addNode(pNode);
+        if (pNode->getChildNodeSize() > 0)
+            path.push_back({pNode, 0});
+    }
+    return pFound.release();
+}
+
+Node* XmlDocument::getNodeByName(const char* pszName) const
+{
+    const Node* pRoot = getChildNode(0);
+    return pRoot ? pRoot->getNodeByName(pszName) : nullptr;
+}
+
+void XmlDocument::removeAll()
+{
+    Node::removeAll();
+    for (std::size_t i = 0; i < m_nNodes; ++i)
+        m_pNodes[i].releaseContent();
+    ::operator delete(m_pNodes);
+    m_pNodes = nullptr;
+    m_nNodes = 0;
+}
+
+} // namespace TAMFx::Common::Xml

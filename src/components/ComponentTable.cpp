@@ -1,0 +1,78 @@
+#include "components/ComponentTable.h"
+
+#include "components/pictures/ZELChartImageBox.h"
+#include "components/pictures/ZELImageBox.h"
+#include "components/pictures/ZELPieImageBox.h"
+#include "components/text/ZELLabel.h"
+
+#include <utility>
+
+namespace PANFx::Components {
+
+namespace {
+
+template <typename Component>
+ZELComponent* make(QWidget* pParent, std::string strID, std::string strType,
+                   TAMFx::Common::Xml::Node* pLayout)
+{
+    return new Component(pParent, std::move(strID), std::move(strType), pLayout);
+}
+
+} // namespace
+
+const std::vector<ComponentEntry>& componentTable()
+{
+    static const std::vector<ComponentEntry> table = {
+        {"label", "ZELLabel", make<ZELLabel>},
+        {"imagebox", "ZELImageBox", make<ZELImageBox>},
+        {"imageEdit", "ZELImageEdit", nullptr},
+        {"imageIPEdit", "ZELImageIPEdit", nullptr},
+        {"imageDateEdit", "ZELImageDateEdit", nullptr},
+        {"imageNumberEdit", "ZELImageNumberEdit", nullptr},
+        {"imageTimeEdit", "ZELImageTimeEdit", nullptr},
+        {"chartimagebox", "ZELChartImageBox", make<ZELChartImageBox>},
+        {"range", "ZELProgressRange", nullptr},
+        {"editrange", "ZELEditRange", nullptr},
+        {"tab", "ZELTab", nullptr},
+        {"tabpage", "ZELTabPage", nullptr},
+        {"imageprogress", "ZELImageProgress", nullptr}, // shorter than the class name, as is
+        {"roundprogress", "ZELRoundProgress", nullptr}, // the next: applications compare them
+        {"pieimagebox", "ZELPieImageBox", make<ZELPieImageBox>},
+        {"numpad", "ZELNumPad", nullptr},
+        {"bubble", "ZELBubbleDialog", nullptr},
+        {"radiogroup", "ZELRadioGroup", nullptr},
+        {"textboard", "ZELTextBoard", nullptr},
+        {"textedit", "ZELTextEdit", nullptr},
+        {"lineedit", "ZELLineEdit", nullptr},
+    };
+    return table;
+}
+
+const std::vector<ComponentEntry>& buttonTable()
+{
+    static const std::vector<ComponentEntry> table = {
+        {"button", "ZELImageButton", nullptr},
+        {"radiobutton", "ZELRadioButton", nullptr},
+        {"checkbutton", "ZELCheckButton", nullptr},
+        {"iconcheckbutton", "ZELIconCheckButton", nullptr},
+        {"keybutton", "ZELKeyButton", nullptr},
+        {"tabbutton", "ZELTabButton", nullptr},
+        {"headerbutton", "ZELHeaderButton", nullptr},
+    };
+    return table;
+}
+
+const std::vector<ComponentEntry>& listTable()
+{
+    static const std::vector<ComponentEntry> table = {
+        {"list", "ZELList", nullptr},
+        {"listscroll", "ZELListScroll", nullptr},
+        {"listheader", "ZELListHeader", nullptr},
+        {"listitem", "ZELListItem", nullptr},
+        {"listUnit", "ZELUnitList", nullptr},
+        {"listCombo", "ZELComboList", nullptr},
+    };
+    return table;
+}
+
+} // namespace PANFx::Components

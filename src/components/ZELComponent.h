@@ -1,0 +1,77 @@
+#pragma once
+
+#include "common/Export.h"
+#include "common/SysLogger.h"
+#include "common/ZELWindow.h"
+
+#include <deque>
+#include <string>
+
+class QObject;
+class QWidget;
+
+namespace PANFx::Components {
+
+/**
+ * Base of every component. It is no widget itself: a component derives from ZELComponent first
+ * and from a Qt widget second, and joins the two through getQWidget.
+ *
+ * A component is complete when its constructor returns; its parent makes it visible. It is
+ * destroyed with its parent widget, and so are its sub-components with it.
+ */
+class QTPANFX_EXPORT ZELComponent : public Windows::ZELWindow
+{
+public:
+    /**
+     * @param strID the element's name in the layout file; every event of the component carries it
+     * @param strType the class-name string that the factory gives
+     */
+    ZELComponent(std::string strID, std::string strType);
+    ~ZELComponent() override;
+
+    /** Builds sub-components from an element; a failed one is logged and left out. */
+    void createSubComponent(TAMFx::Common::Xml::Node* pLayout) override;
+
+    /** Calls showWindow() on each sub-component, in the order of creation. */
+    void showSubComponent() override;
+
+    virtual void showWindow() = 0;
+    virtual void hideWindow() = 0;
+
+    /** Reads the attributes of the component's element; does nothing here. */
+    virtual void setLayout(TAMFx::Common::Xml::Node* pLayout);
+
+    /** The component's widget. */
+    virtual QWidget* getQWidget() = 0;
+
+    /** Calls hideWindow() on each sub-component, in the order of creation. */
+    void hideSubComponent();
+
+    /** @throw std::out_of_range when there is no sub-component at @p nIndex */
+    ZELComponent* getSubComponent(int nIndex);
+
+    /** The first sub-component with that id; null, with no log line, when there is none. */
+    ZELComponent* getSubComponent(std::string strID);
+
+    int getComponentCount();
+
+    /**
+     * The sub-component, at any depth, whose widget is @p pWidget; null when there is none. The
+     * pointer is only compared, so it may be that of an object that is gone.
+     */
+    ZELComponent* findByWidget(const QObject* pWidget);
+
+    /**
+     * Takes the entry at the front out of the sequence when any entry has the id; nothing is
+     * deleted, the widget lives on as a child. Emptying from the front is what callers build on.
+     */
+    void deleteSubComponent(std::string strID);
+
+    std::string m_strType;                       ///< kind of the component
+    std::deque<ZELComponent*> m_dqSubComponents; ///< in order of creation, not owned
+
+protected:
+    Common::SysLogger m_logger{"QTPANFx", "ZELWindow"}; ///< not the class's name, and stays so
+};
+
+} // namespace PANFx::Components

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <string>
+
+/** Name of the software image with the id @p nImageID: "Boot" for 0 to "Sys" for 7, else "unknown".
+ */
+std::string updateImageName(int nImageID);

@@ -1,0 +1,77 @@
+#include "windows/PageBuilding.h"
+
+#include "components/ComponentWalk.h"
+#include "components/ZELComponent.h"
+#include "components/pictures/ZELImageBox.h"
+#include "components/support/Picture.h"
+#include "resource/ZELResourceMgr.h"
+
+#include <QPalette>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace PANFx::Windows {
+
+using Components::ZELComponent;
+using Components::ZELImageBox;
+using Resource::ZELResourceMgr;
+
+void setUpScreenWidget(QWidget& widget)
+{
+    widget.setPalette(QPalette(Qt::black));
+    widget.setGeometry(QRect(QPoint(0, 0), QPoint(799, 479)));
+}
+
+// The default language is the empty one, so its path holds a doubled slash, which does no harm.
+std::string layoutPath(const std::string& strResourceID)
+{
+    ZELResourceMgr* resources = ZELResourceMgr::getInstance();
+    return resources->getBasePath() + resources->m_strLocale + "/layout/" + strResourceID +
+           ".resource";
+}
+
+void createBackground(const std::string& strImage, QWidget& parent,
+                      std::deque<ZELComponent*>& components, Common::SysLogger& logger)
+{
+    QPixmap* picture = Components::findPicture(strImage);
+    if (!picture) {
+        // an empty name has its line from the image manager
+        if (!strImage.empty())
+            logger.WriteError("[%s] cannot load image: %s", "createBackgroundSubComponent",
+                              strImage.c_str());
+        return;
+    }
+    auto* box = new ZELImageBox(&parent, "background", "ZELImageBox", nullptr);
+    box->setImage(picture);
+    components.push_back(box);
+}
+
+void createPageComponents(TAMFx::Common::Xml::Node* pComponents, QWidget& parent,
+                          const std::string& strID, std::deque<ZELComponent*>& components,
+                          Common::SysLogger& logger,
+                          const std::function<void(const char*, const char*)>& onFailure)
+{
+    if (!pComponents) {
+        logger.WriteError("[%s] There is not <Components> tag in the %s.resource file",
+                          "createSubComponent", strID.c_str());
+        return;
+    }
+    Components::createComponents(pComponents, &parent, components, onFailure);
+}
+
+void showComponents(const std::deque<ZELComponent*>& components)
+{
+    for (ZELComponent* component : components)
+        component->showWindow();
+}
+
+ZELComponent* findComponent(const std::deque<ZELComponent*>& components, const std::string& strID)
+{
+    const auto found =
+        std::find_if(components.begin(), components.end(),
+                     [&](const ZELComponent* component) { return component->m_strID == strID; });
+    return found == components.end() ? nullptr : *found;
+}
+
+} // namespace PANFx::Windows
