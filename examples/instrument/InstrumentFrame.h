@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Analyser.h"
+
+#include "windows/ZELMainFrame.h"
+
+#include <QEvent>
+
+/// Posted once a second to the page on screen, as a ZELEvent: there are new readings.
+constexpr QEvent::Type EVENT_READING = QEvent::Type(2001);
+
+/// The one top-level window: it makes the pages, reads the analyser and changes the language.
+class InstrumentFrame : public PANFx::Windows::ZELMainFrame
+{
+public:
+    InstrumentFrame();
+
+    PANFx::Windows::ZELChildWindow* createChildWindow(std::string strID) override;
+
+    const Analyser& analyser() const { return m_analyser; }
+
+    /// Switches to another language and goes back one page. Meant to be called by the page on
+    /// screen from its own event(): that page is deleted once it has returned from there.
+    void changeLanguage(const std::string& strLocale);
+
+    /// Whether the next start comes up in the language that was chosen last; true at first.
+    void setRemembersLanguage(bool bRemembers) { m_bRemembersLanguage = bRemembers; }
+
+protected:
+    bool event(QEvent* pEvent) override;
+
+private:
+    void rememberLanguage(const std::string& strLocale);
+
+    Analyser m_analyser;
+    bool m_bRemembersLanguage = true;
+};

@@ -1,0 +1,162 @@
+#include "Icons.h"
+
+namespace art {
+
+namespace {
+
+/// Adds an open line through the points.
+void addLine(QPainterPath& path, std::initializer_list<QPointF> points)
+{
+    const QPointF* pFirst = points.begin();
+    path.moveTo(*pFirst);
+    for (const QPointF* p = pFirst + 1; p != points.end(); ++p)
+        path.lineTo(*p);
+}
+
+QPainterPath bubble()
+{
+    QPainterPath path;
+    path.moveTo(12, 7);
+    path.lineTo(36, 7);
+    path.quadTo(42, 7, 42, 13);
+    path.lineTo(42, 30);
+    path.quadTo(42, 36, 36, 36);
+    path.lineTo(24, 36);
+    path.lineTo(15, 43);
+    path.lineTo(15, 36);
+    path.lineTo(12, 36);
+    path.quadTo(6, 36, 6, 30);
+    path.lineTo(6, 13);
+    path.quadTo(6, 7, 12, 7);
+    path.closeSubpath();
+    return path;
+}
+
+} // namespace
+
+QPainterPath dropShape()
+{
+    QPainterPath path;
+    path.moveTo(24, 4);
+    path.cubicTo(29, 12, 38, 20, 38, 30);
+    path.cubicTo(38, 38, 32, 44, 24, 44);
+    path.cubicTo(16, 44, 10, 38, 10, 30);
+    path.cubicTo(10, 20, 19, 12, 24, 4);
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath drop()
+{
+    QPainterPath path = dropShape();
+    path.moveTo(17, 31);
+    path.cubicTo(17, 34.5, 19.5, 37, 23, 37);
+    return path;
+}
+
+QPainterPath results()
+{
+    QPainterPath path;
+    path.addRoundedRect(9, 6, 30, 37, 5, 5);
+    addLine(path, {{17, 34}, {17, 28}});
+    addLine(path, {{24, 34}, {24, 17}});
+    addLine(path, {{31, 34}, {31, 23}});
+    return path;
+}
+
+QPainterPath sliders()
+{
+    QPainterPath path;
+    const qreal knobs[3][2] = {{13, 31}, {24, 16}, {35, 29}};
+    for (const auto& knob : knobs) {
+        addLine(path, {{knob[0], 6}, {knob[0], knob[1] - 5}});
+        path.addEllipse(QPointF(knob[0], knob[1]), 5, 5);
+        addLine(path, {{knob[0], knob[1] + 5}, {knob[0], 42}});
+    }
+    return path;
+}
+
+QPainterPath bubbleLatin()
+{
+    QPainterPath path = bubble();
+    addLine(path, {{17, 29}, {24, 13}, {31, 29}});
+    addLine(path, {{19.5, 24}, {28.5, 24}});
+    return path;
+}
+
+QPainterPath bubbleKorean()
+{
+    QPainterPath path = bubble();
+    path.moveTo(15, 14);
+    path.lineTo(25, 14);
+    path.quadTo(25, 24, 15, 29);
+    addLine(path, {{31, 12}, {31, 31}});
+    addLine(path, {{31, 21}, {36, 21}});
+    return path;
+}
+
+QPainterPath flask()
+{
+    QPainterPath path;
+    addLine(path, {{18, 6}, {30, 6}});
+    path.moveTo(20, 6);
+    path.lineTo(20, 18);
+    path.lineTo(9, 37);
+    path.quadTo(6.5, 43, 13, 43);
+    path.lineTo(35, 43);
+    path.quadTo(41.5, 43, 39, 37);
+    path.lineTo(28, 18);
+    path.lineTo(28, 6);
+    path.moveTo(14, 30);
+    path.cubicTo(19, 26, 22, 26, 25, 29);
+    path.cubicTo(28, 32, 31, 32, 34, 30);
+    return path;
+}
+
+QPainterPath bolt()
+{
+    QPainterPath path;
+    addLine(path, {{27, 5}, {12, 27}, {23, 27}, {20, 43}, {36, 20}, {25, 20}});
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath oxygen()
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(18, 29), 12, 12);
+    path.addEllipse(QPointF(34, 14), 7, 7);
+    path.addEllipse(QPointF(38, 37), 4, 4);
+    return path;
+}
+
+QPainterPath thermometer()
+{
+    QPainterPath path;
+    path.moveTo(18.5, 27);
+    path.lineTo(18.5, 10.5);
+    path.cubicTo(18.5, 3.5, 29.5, 3.5, 29.5, 10.5);
+    path.lineTo(29.5, 27);
+    path.cubicTo(38.5, 33, 34, 44, 24, 44);
+    path.cubicTo(14, 44, 9.5, 33, 18.5, 27);
+    path.closeSubpath();
+    addLine(path, {{24, 16}, {24, 34}});
+    return path;
+}
+
+QPainterPath arrowBack()
+{
+    QPainterPath path;
+    addLine(path, {{22, 12}, {10, 24}, {22, 36}});
+    addLine(path, {{10, 24}, {39, 24}});
+    return path;
+}
+
+QPainterPath chevron()
+{
+    QPainterPath path;
+    addLine(path, {{18, 10}, {32, 24}, {18, 38}});
+    return path;
+}
+
+} // namespace art

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QColor>
+
+/// The colours that all pictures of the instrument share. The text colours stand in default.style.
+namespace art {
+
+const QColor groundTop(0x11, 0x1C, 0x29);
+const QColor groundBottom(0x0A, 0x11, 0x1A);
+const QColor bar(0x15, 0x22, 0x30);
+const QColor panelTop(0x1D, 0x2C, 0x3C);
+const QColor panelBottom(0x17, 0x24, 0x31);
+const QColor edge(0x2C, 0x40, 0x55);
+const QColor edgeBright(0x3E, 0x57, 0x72);
+const QColor well(0x0D, 0x16, 0x20);
+const QColor line(0x22, 0x32, 0x43);
+const QColor quiet(0x6C, 0x82, 0x99);
+const QColor white(0xF4, 0xF8, 0xFC);
+
+const QColor blue(0x5B, 0x8D, 0xEF);   // the chart's own line is a darker tone of it
+const QColor teal(0x2B, 0xB8, 0xB0);   // measuring, dissolved oxygen
+const QColor violet(0x9A, 0x7B, 0xF2); // pH value
+const QColor amber(0xF0, 0xA9, 0x3B);  // conductivity
+const QColor coral(0xF2, 0x72, 0x60);  // temperature
+
+} // namespace art
