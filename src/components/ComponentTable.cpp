@@ -1,5 +1,10 @@
 #include "components/ComponentTable.h"
 
+#include "components/buttons/ZELCheckButton.h"
+#include "components/buttons/ZELIconCheckButton.h"
+#include "components/buttons/ZELImageButton.h"
+#include "components/buttons/ZELRadioButton.h"
+#include "components/buttons/ZELRadioGroup.h"
 #include "components/pictures/ZELChartImageBox.h"
 #include "components/pictures/ZELImageBox.h"
 #include "components/pictures/ZELPieImageBox.h"
@@ -40,7 +45,7 @@ const std::vector<ComponentEntry>& componentTable()
         {"pieimagebox", "ZELPieImageBox", make<ZELPieImageBox>},
         {"numpad", "ZELNumPad", nullptr},
         {"bubble", "ZELBubbleDialog", nullptr},
-        {"radiogroup", "ZELRadioGroup", nullptr},
+        {"radiogroup", "ZELRadioGroup", make<ZELRadioGroup>},
         {"textboard", "ZELTextBoard", nullptr},
         {"textedit", "ZELTextEdit", nullptr},
         {"lineedit", "ZELLineEdit", nullptr},
@@ -51,10 +56,10 @@ const std::vector<ComponentEntry>& componentTable()
 const std::vector<ComponentEntry>& buttonTable()
 {
     static const std::vector<ComponentEntry> table = {
-        {"button", "ZELImageButton", nullptr},
-        {"radiobutton", "ZELRadioButton", nullptr},
-        {"checkbutton", "ZELCheckButton", nullptr},
-        {"iconcheckbutton", "ZELIconCheckButton", nullptr},
+        {"button", "ZELImageButton", make<ZELImageButton>},
+        {"radiobutton", "ZELRadioButton", make<ZELRadioButton>},
+        {"checkbutton", "ZELCheckButton", make<ZELCheckButton>},
+        {"iconcheckbutton", "ZELIconCheckButton", make<ZELIconCheckButton>},
         {"keybutton", "ZELKeyButton", nullptr},
         {"tabbutton", "ZELTabButton", nullptr},
         {"headerbutton", "ZELHeaderButton", nullptr},

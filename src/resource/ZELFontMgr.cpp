@@ -11,6 +11,7 @@
 #include <QFont>
 #include <QString>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <new>
@@ -35,9 +36,10 @@ std::vector<Font*>& stylesOfTheProcess()
     return *styles;
 }
 
-// 0 to 99 mean the same on both versions of Qt
+// 0 to 99 mean the same on both versions of Qt; beyond, one would wrap around and the other not
 void setWeight(QFont& font, int weight)
 {
+    weight = std::clamp(weight, 0, 99);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // the one way to keep the old scale

@@ -4,6 +4,7 @@
 #include "common/tamfx/Object.h"
 
 #include <QFile>
+#include <QImage>
 
 #include <cstdio>
 #include <new>
@@ -83,7 +84,9 @@ QPixmap* ZELImageMgr::getImage(std::string strName)
         m_logger.WriteError("[%s] cannot load image -->%s\n", "getImage", path.c_str());
         return nullptr;
     }
-    *pixmap = QPixmap(QFile::decodeName(Common::systemPath(path).c_str()));
+    // QPixmap's own reading goes through Qt's cache, which would keep the pixels when the language
+    // goes, and could give back what the file held before
+    *pixmap = QPixmap::fromImage(QImage(QFile::decodeName(Common::systemPath(path).c_str())));
     m_tableImages.AddObj(strName.c_str(), new LoadedPicture(pixmap));
     return pixmap;
 }

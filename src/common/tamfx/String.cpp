@@ -6,7 +6,8 @@
 
 namespace {
 
-std::string formatted(const char* pszFormat, va_list arguments)
+__attribute__((format(printf, 1, 0))) std::string formatted(const char* pszFormat,
+                                                            va_list arguments)
 {
     va_list measured;
     va_copy(measured, arguments);

@@ -67,8 +67,10 @@ Node* XmlDocument::getNodeByName(const char* pszName) const
 void XmlDocument::removeAll()
 {
     Node::removeAll();
-    for (std::size_t i = 0; i < m_nNodes; ++i)
-        m_pNodes[i].releaseContent();
+    for (std::size_t i = 0; i < m_nNodes; ++i) {
+        if (m_pNodes[i].m_bChildrenAdded || m_pNodes[i].m_bAttributesAdded)
+            m_pNodes[i].releaseContent();
+    }
     ::operator delete(m_pNodes);
     m_pNodes = nullptr;
     m_nNodes = 0;

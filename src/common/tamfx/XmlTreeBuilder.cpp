@@ -1,7 +1,7 @@
 #include "common/tamfx/XmlTreeBuilder.h"
 
 #include "common/tamfx/XmlDocument.h"
-#include "common/tamfx/XmlInspector.h"
+#include "common/tamfx/XmlOutline.h"
 #include "common/tamfx/XmlSource.h"
 
 #include <cstring>
@@ -41,93 +41,108 @@ XmlSource::Encoding encodingOf(const pugi::xml_parse_result& result)
 } // namespace
 
 /**
- * Writes the tree into one piece of memory: first all elements, level by level, so that the
- * children of each stand side by side, then all attributes, then all texts.
+ * Writes the tree into one piece of memory: first all elements, the children of each side by
+ * side, then all attributes, then all texts.
  */
 class XmlTreeBuilder::Filler
 {
 public:
-    explicit Filler(const XmlInspector::Size& size)
-        : m_sources(size.nNodes)
-        , m_pNodes(static_cast<Node*>(::operator new(
-              size.nNodes * sizeof(Node) + size.nAttributes * sizeof(Attribute) + size.nTexts)))
-        , m_pAttribute(reinterpret_cast<Attribute*>(m_pNodes + size.nNodes))
-        , m_pText(reinterpret_cast<char*>(m_pAttribute + size.nAttributes))
-    {
-    }
+    explicit Filler(const XmlOutline& outline);
 
-    Node* fill(const pugi::xml_node& root);
+    /** Gives the root element, which is the begin of the piece of memory. */
+    Node* fill();
 
 private:
-    void append(const pugi::xml_node& element);
-    void fillAttributes(Node& node, const pugi::xml_node& element);
-    void fillText(Node& node, const pugi::xml_node& element);
-    const char* copy(const char* pszText);
+    void fillElement(Node* pNode, const XmlOutline::Element& element);
+    void fillText(Node& node, const XmlOutline::Element& element);
+    const char* copy(std::string_view text);
+    void append(std::string_view text);
 
-    std::vector<pugi::xml_node> m_sources;
+    const XmlOutline& m_outline;
+    std::vector<Node*> m_nextChildren; ///< of each element so far: the place of its next child
     Node* m_pNodes;
-    Attribute* m_pAttribute; ///< the next one
-    char* m_pText;           ///< the next one
-    std::size_t m_nNodes = 0;
+    Node* m_pFreeNode;
+    Attribute* m_pFreeAttribute;
+    char* m_pFreeText;
 };
 
-Node* XmlTreeBuilder::Filler::fill(const pugi::xml_node& root)
+XmlTreeBuilder::Filler::Filler(const XmlOutline& outline)
+    : m_outline(outline)
 {
-    append(root);
-    for (std::size_t i = 0; i < m_nNodes; ++i) {
-        Node& node = m_pNodes[i];
-        const pugi::xml_node element = m_sources[i];
-        fillAttributes(node, element);
-        fillText(node, element);
-        node.m_children.pBlock = m_pNodes + m_nNodes;
-        pugi::xml_node child = XmlInspector::elementFrom(element.first_child());
-        for (; child; child = XmlInspector::elementFrom(child.next_sibling())) {
-            append(child);
-            ++node.m_nChildren;
-        }
+    const std::size_t nNodes = outline.elements().size();
+    const std::size_t nAttributes = outline.attributes().size();
+    const auto sizeOf = [](std::string_view text) { return text.empty() ? 0 : text.size() + 1; };
+    std::size_t nTexts = 0;
+    for (const XmlOutline::Element& element : outline.elements())
+        nTexts += sizeOf(element.name) + (element.hasText() ? element.nText + 1 : 0);
+    for (const XmlOutline::Attribute& attribute : outline.attributes())
+        nTexts += sizeOf(attribute.name) + sizeOf(attribute.value);
+
+    m_nextChildren.reserve(nNodes);
+    m_pNodes = static_cast<Node*>(
+        ::operator new(nNodes * sizeof(Node) + nAttributes * sizeof(Attribute) + nTexts));
+    m_pFreeNode = m_pNodes;
+    m_pFreeAttribute = reinterpret_cast<Attribute*>(m_pNodes + nNodes);
+    m_pFreeText = reinterpret_cast<char*>(m_pFreeAttribute + nAttributes);
+}
+
+Node* XmlTreeBuilder::Filler::fill()
+{
+    for (const XmlOutline::Element& element : m_outline.elements()) {
+        const bool bRoot = element.nParent < 0;
+        fillElement(bRoot ? m_pFreeNode++
+                          : m_nextChildren[static_cast<std::size_t>(element.nParent)]++,
+                    element);
     }
     return m_pNodes;
 }
 
-void XmlTreeBuilder::Filler::append(const pugi::xml_node& element)
+void XmlTreeBuilder::Filler::fillElement(Node* pNode, const XmlOutline::Element& element)
 {
-    Node* pNode = new (m_pNodes + m_nNodes) Node(Node::FromFile(), copy(element.name()));
+    new (pNode) Node(Node::FromFile(), copy(element.name));
     pNode->m_bOwned = true;
-    m_sources[m_nNodes++] = element;
-}
+    pNode->m_children.pBlock = m_pFreeNode;
+    pNode->m_nChildren = static_cast<unsigned>(element.nChildren);
+    m_nextChildren.push_back(m_pFreeNode);
+    m_pFreeNode += element.nChildren;
 
-void XmlTreeBuilder::Filler::fillAttributes(Node& node, const pugi::xml_node& element)
-{
-    node.m_attributes.pBlock = m_pAttribute;
-    for (const pugi::xml_attribute& attribute : element.attributes()) {
-        const char* pszName = copy(attribute.name());
-        new (m_pAttribute++) Attribute(Attribute::FromFile(), pszName, copy(attribute.value()));
-        ++node.m_nAttributes;
+    const XmlOutline::Attribute* pAttribute =
+        m_outline.attributes().data() + element.nFirstAttribute;
+    pNode->m_attributes.pBlock = m_pFreeAttribute;
+    for (int i = 0; i < element.nAttributes; ++i, ++pAttribute) {
+        const char* pszName = copy(pAttribute->name);
+        new (m_pFreeAttribute++) Attribute(Attribute::FromFile(), pszName, copy(pAttribute->value));
+        ++pNode->m_nAttributes;
     }
+    if (element.hasText())
+        fillText(*pNode, element);
 }
 
-void XmlTreeBuilder::Filler::fillText(Node& node, const pugi::xml_node& element)
+void XmlTreeBuilder::Filler::fillText(Node& node, const XmlOutline::Element& element)
 {
-    if (XmlInspector::textLength(element) == 0)
-        return;
-    node.m_pszValue = m_pText;
-    for (const pugi::xml_node& child : element.children()) {
-        const std::size_t nPiece = std::strlen(child.value());
-        std::memcpy(m_pText, child.value(), nPiece);
-        m_pText += nPiece;
+    node.m_pszValue = m_pFreeText;
+    for (int i = element.nFirstPiece; i >= 0;) {
+        const XmlOutline::Piece& piece = m_outline.pieces()[static_cast<std::size_t>(i)];
+        append(piece.text);
+        i = piece.nNext;
     }
-    *m_pText++ = '\0';
+    *m_pFreeText++ = '\0';
 }
 
-const char* XmlTreeBuilder::Filler::copy(const char* pszText)
+const char* XmlTreeBuilder::Filler::copy(std::string_view text)
 {
-    if (!*pszText)
+    if (text.empty())
         return "";
-    const std::size_t nSize = std::strlen(pszText) + 1;
-    char* pCopy = m_pText;
-    std::memcpy(pCopy, pszText, nSize);
-    m_pText += nSize;
-    return pCopy;
+    const char* pszCopy = m_pFreeText;
+    append(text);
+    *m_pFreeText++ = '\0';
+    return pszCopy;
+}
+
+void XmlTreeBuilder::Filler::append(std::string_view text)
+{
+    std::memcpy(m_pFreeText, text.data(), text.size());
+    m_pFreeText += text.size();
 }
 
 void XmlTreeBuilder::build(const char* pszFileName, const std::string& strContent,
@@ -137,17 +152,16 @@ void XmlTreeBuilder::build(const char* pszFileName, const std::string& strConten
     const pugi::xml_parse_result result =
         file.load_buffer(strContent.data(), strContent.size(), parseFlags);
     const XmlSource source(strContent, encodingOf(result));
-    XmlInspector inspector(pszFileName, source);
+    XmlOutline outline(pszFileName, source);
     const auto nNul = source.text().find('\0');
     if (nNul != std::string_view::npos)
-        inspector.fail(nNul, "NUL character");
+        outline.fail(nNul, "NUL character");
     if (!result)
-        inspector.fail(static_cast<std::size_t>(result.offset), result.description());
-    const XmlInspector::Size size = inspector.inspect(file);
+        outline.fail(static_cast<std::size_t>(result.offset), result.description());
+    outline.read(file);
 
-    Filler filler(size);
-    document.m_pNodes = filler.fill(file.document_element());
-    document.m_nNodes = size.nNodes;
+    document.m_pNodes = Filler(outline).fill();
+    document.m_nNodes = outline.elements().size();
     Node& parent = document;
     parent.m_children.pBlock = document.m_pNodes;
     parent.m_nChildren = 1;

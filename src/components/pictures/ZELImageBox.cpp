@@ -3,6 +3,7 @@
 #include "common/tamfx/Attribute.h"
 #include "common/tamfx/Node.h"
 #include "components/support/LayoutPosition.h"
+#include "components/support/Painting.h"
 #include "components/support/Picture.h"
 #include "components/support/PostToParent.h"
 #include "events/EventNumbers.h"
@@ -100,7 +101,7 @@ void ZELImageBox::paintEvent(QPaintEvent*)
         painter.rotate(m_nRotate);
         painter.translate(-centreX, -centreY);
     }
-    painter.drawPixmap(QRect(0, 0, width(), height()), *m_pBGPixmap, QRect());
+    drawPicture(painter, m_pBGPixmap, rect());
 }
 
 void ZELImageBox::mousePressEvent(QMouseEvent*)

@@ -17,6 +17,7 @@ namespace {
 constexpr int sixteenths = 16; // the unit of QPainter::drawPie
 constexpr int top = 90 * sixteenths;
 constexpr int fullCircle = 360 * sixteenths;
+constexpr int largestMask = 4096; // a layout's slip of some zeros must not cost seconds a paint
 
 } // namespace
 
@@ -42,7 +43,8 @@ void ZELPieImageBox::paintEvent(QPaintEvent*)
         m_logger.WriteError("m_pBGPixmap is NULL");
         return;
     }
-    QBitmap mask(width(), height());
+    const QSize covering = m_pBGPixmap->size().expandedTo(QSize(largestMask, largestMask));
+    QBitmap mask(size().boundedTo(covering));
     mask.fill(Qt::color1);
     // A painter on a bitmap starts with a pen of color1 and a brush of color0: the outline stays
     // opaque and the sector becomes transparent. It has to stay open while the mask is set.

@@ -4,13 +4,13 @@
 #include "common/tamfx/Node.h"
 #include "components/support/LayoutFont.h"
 #include "components/support/LayoutPosition.h"
+#include "components/support/Painting.h"
 #include "components/support/PostToParent.h"
 #include "events/EventNumbers.h"
 #include "resource/Font.h"
 #include "resource/ParseHelper.h"
 #include "resource/ZELResourceMgr.h"
 
-#include <QColor>
 #include <QFont>
 #include <QFontMetrics>
 #include <QPainter>
@@ -152,16 +152,15 @@ void ZELLabel::paintText(const Font& font, bool bElided)
 {
     QString text = QString::fromUtf8(m_strTitle.c_str());
     if (bElided)
-        text = QFontMetrics(*font.m_pFont).elidedText(text, Qt::ElideRight, width(), 0);
+        text = elided(text, font, width());
 
     QPainter painter(this);
-    painter.setFont(*font.m_pFont);
     if (m_bShadow) {
+        painter.setFont(*font.m_pFont);
         painter.setPen(Qt::white);
-        painter.drawText(QRect(QPoint(1, 1), QPoint(width(), height())), m_nAlign, text);
+        painter.drawText(rect().translated(1, 1), m_nAlign, text);
     }
-    painter.setPen(*font.m_pColor);
-    painter.drawText(QRect(QPoint(0, 0), QPoint(width() - 1, height() - 1)), m_nAlign, text);
+    drawStyledText(painter, text, font, rect(), m_nAlign);
 }
 
 } // namespace PANFx::Components

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "components/ZELComponent.h"
+
+#include <QPropertyAnimation>
+#include <QRect>
+#include <QWidget>
+
+#include <string>
+
+class QPainter;
+class QPixmap;
+
+namespace PANFx::Resource {
+class Font;
+}
+
+namespace PANFx::Components {
+
+class Timer;
+
+/**
+ * The push button of the panel and the model for every other button: one of three pictures (up,
+ * down, dim), an optional title in three styles, the touch sound, a push of a few pixels while
+ * held, and the ticks of a long press.
+ *
+ * Layout: attributes "title" (a text or "@key") and, read with a title only, "style",
+ * "pressstyle", "dimstyle", "animation" ("elastic_push"); "longpress" ("false" is off, anything
+ * else on); children "image" ("up", "down", "dim"), "position", "textPos" (with "align") and
+ * "imagePos". An attribute missing from "textPos" or "imagePos" takes the value of the same
+ * attribute of "position", though the one is in widget and the other in parent coordinates:
+ * layouts are made for that.
+ *
+ * Posts to its parent EVENT_MOUSE_UP (1552) at every release outside dim mode, wherever the
+ * pointer is, and while held with long press on EVENT_LONG_PRESS (1571) after 1000 ms and three
+ * times more each 300 ms, then EVENT_LONG_PRESS_HELD (1572) each 300 ms. Setters don't repaint
+ * unless told otherwise.
+ */
+class QTPANFX_EXPORT ZELImageButton : public ZELComponent, public QWidget
+{
+public:
+    ZELImageButton(QWidget* pParent, std::string strID, std::string strType,
+                   TAMFx::Common::Xml::Node* pLayout);
+    ~ZELImageButton() override;
+
+    void showWindow() override;
+    void hideWindow() override;
+    void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
+    QWidget* getQWidget() override;
+
+    /** Takes the file names of the pictures, the pressed one first. */
+    void setImages(std::string strDown, std::string strUp, std::string strDim);
+
+    void setTitle(std::string strTitle);
+    std::string getTitle();
+
+    /** Style of the title in the normal state, not owned. */
+    void setFont(Resource::Font* pFont);
+
+    void setSoundMode(bool bSoundMode);
+    void setLongPress(bool bLongPress);
+
+    /** Elides the title from now on, whatever the argument: there is no way back. */
+    void setElidedText(bool bElided);
+
+    /** The rest position in the parent, in pixels; the button is not moved. */
+    void setOrgPos(int nX, int nY);
+
+    /** Dim mode shows the dim picture and style and takes no touches; repaints. */
+    void setDimMode(bool bDimMode);
+
+protected:
+    /** For a derived class that reads its layout in its own way: none is read here. */
+    ZELImageButton(QWidget* pParent, std::string strID, std::string strType);
+
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseReleaseEvent(QMouseEvent* pEvent) override;
+    void paintEvent(QPaintEvent* pEvent) override;
+    bool event(QEvent* pEvent) override;
+
+    void onLongPressed();
+    void animationPressed();
+    void animationReleased();
+
+    /** The down picture, loaded now when it isn't yet; null where there is none. */
+    QPixmap* downImage();
+
+    /** downImage() for a checked button; where there is none, one error line per button. */
+    QPixmap* checkedImage();
+
+    /** Paints a button that has a checked state: the down picture and press style while checked. */
+    void paintCheckable(bool bChecked);
+
+    std::string m_strDownImage;
+    std::string m_strUpImage;
+    std::string m_strDimImage;
+    QPixmap* m_pDownImage = nullptr; ///< not owned; may be null until the first press
+    QPixmap* m_pUpImage = nullptr;   ///< not owned
+    QPixmap* m_pCurImage = nullptr;  ///< not owned; what is painted
+    Resource::Font* m_pFont = nullptr;
+    Resource::Font* m_pDimFont = nullptr;
+    Resource::Font* m_pPressFont = nullptr;
+    int m_nAlign = Qt::AlignCenter;
+    bool m_bDimMode = false;
+    bool m_bPressed = false;
+    bool m_bSoundMode = true;
+    QPropertyAnimation m_animation;
+    std::string m_strTitle;
+    int m_nPressOffset = 0; ///< pixels that the button moves on a press, 0 to 4
+    int m_nOrgX = 0;
+    int m_nOrgY = 0;
+    QRect m_imageRect; ///< in widget coordinates; unset means the whole widget
+    QRect m_textRect;  ///< in widget coordinates; unset means the whole widget
+    std::string m_strAnimation;
+    Timer* m_pTimer; ///< owned
+    bool m_bLongPressed = false;
+    int m_nLongPressCount = 0; ///< ticks in this press
+    bool m_bLongPress = false;
+    bool m_bElided = false;
+    Common::SysLogger m_logger{"QTPANFx", "ZELImageButton"};
+
+private:
+    void readTitle(TAMFx::Common::Xml::Node* pLayout);
+    void dropPress();
+    void animateTo(int nX, int nY, double dAmplitude);
+    void paintTitle(QPainter& painter, bool bPressStyle, bool bElided);
+
+    bool m_bNoDownLogged = false;
+};
+
+} // namespace PANFx::Components
