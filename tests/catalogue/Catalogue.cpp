@@ -7,6 +7,7 @@
 #include "components/ComponentFactory.h"
 #include "components/ComponentTable.h"
 #include "components/ZELComponent.h"
+#include "components/buttons/ZELImageButton.h"
 #include "events/EventNumbers.h"
 #include "events/Timer.h"
 #include "events/ZELEvent.h"
@@ -14,9 +15,6 @@
 #include "support/PanelTest.h"
 #include "support/Pixels.h"
 #include "support/Touch.h"
-#if __has_include("components/buttons/ZELImageButton.h")
-#include "components/buttons/ZELImageButton.h"
-#endif
 #if __has_include("components/editors/ZELImageEdit.h")
 #include "components/editors/ZELImageEdit.h"
 #endif
@@ -97,17 +95,13 @@ void setDim(QWidget* widget, bool dim)
 
 void setDimMode(QWidget* widget, bool dim)
 {
-#if __has_include("components/buttons/ZELImageButton.h")
     setDim<PANFx::Components::ZELImageButton>(widget, dim);
-#endif
 #if __has_include("components/editors/ZELImageEdit.h")
     setDim<PANFx::Components::ZELImageEdit>(widget, dim);
 #endif
 #if __has_include("components/text/ZELLineEdit.h")
     setDim<PANFx::Components::ZELLineEdit>(widget, dim);
 #endif
-    static_cast<void>(widget);
-    static_cast<void>(dim);
 }
 
 // as if a held button's timer had ticked so often: without the seconds that it takes

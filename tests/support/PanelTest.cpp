@@ -5,13 +5,11 @@
 #include "common/tamfx/XmlException.h"
 #include "components/ComponentFactory.h"
 #include "components/ZELComponent.h"
+#include "resource/SoundFactory.h"
 #include "resource/ZELResourceMgr.h"
 #include "support/EventLoop.h"
 #include "support/FrameForTest.h"
 #include "windows/ZELChildWindow.h"
-#if __has_include("resource/SoundFactory.h")
-#include "resource/SoundFactory.h"
-#endif
 
 #include <QDir>
 #include <QFile>
@@ -34,6 +32,10 @@ const std::string PanelTest::resources = "/app/bin/resource/";
 
 PanelTest::PanelTest()
 {
+#if !defined(QTPANFX_WITH_SYSROOT)
+    // the library would work on the machine's own /app and /data
+    [] { GTEST_SKIP() << "built for the instrument, without a file system for each test"; }();
+#endif
     EXPECT_TRUE(m_root.isValid()) << m_root.errorString().toStdString();
     qputenv("QTPANFX_SYSROOT", QFile::encodeName(m_root.path()));
     for (const char* folder : {"/app/bin/resource/img", "/app/bin/resource/layout", "/data/config",
@@ -56,9 +58,7 @@ PanelTest::~PanelTest()
     m_documents.clear();
     Components::ComponentFactory::destroyInstance();
     Resource::ZELResourceMgr::destroyInstance();
-#if __has_include("resource/SoundFactory.h")
     Resource::SoundFactory::destroyInstance();
-#endif
     qunsetenv("QTPANFX_SYSROOT");
 }
 

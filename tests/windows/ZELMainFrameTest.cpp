@@ -9,7 +9,6 @@
 
 #include <QDate>
 #include <QPalette>
-#include <QPointer>
 #include <QTime>
 
 #include <cerrno>
@@ -219,22 +218,23 @@ TEST_F(ZELMainFrameTest, runsUnprotectedWhereTheSystemGivesNoSemaphore)
     EXPECT_EQ(frame.getCurrentWindow()->m_strID, "a");
 }
 
-TEST_F(ZELMainFrameTest, thePagesGoLast)
+TEST_F(ZELMainFrameTest, theTimerGoesFirstThenTheSemaphoreAndThePagesLast)
 {
     const TAMFx::Util::System::CCriticalSection first;
     auto frame = std::make_unique<FieldsFrame>();
     addPages(*frame, {"a", "b"});
     frame->moveTo("a");
     frame->moveTo("b");
-    const QPointer<QObject> timer = frame->m_pTimer;
     const int id = frame->m_csNavigation.m_nSemID;
-    steps();
-
-    at("delete a", [&] {
-        EXPECT_TRUE(timer.isNull());
-        EXPECT_EQ(semctl(id, 0, GETVAL), -1);
+    std::string order;
+    QObject::connect(frame->m_pTimer, &QObject::destroyed, [&] {
+        order += semctl(id, 0, GETVAL) == 0 ? "timer, " : "timer after semaphore, ";
     });
+    steps();
+    at("delete a",
+       [&] { order += semctl(id, 0, GETVAL) == -1 ? "page" : "page before semaphore"; });
     frame.reset();
+    EXPECT_EQ(order, "timer, page");
     EXPECT_EQ(steps(), (std::vector<std::string>{"delete a", "delete b"}));
 }
 

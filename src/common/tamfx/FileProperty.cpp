@@ -26,9 +26,8 @@ void FileProperty::setProperty(const char* pszKey, const char* pszValue)
         line.setValue(strValue);
         return;
     }
-    std::string strLineBreak = m_lines.empty() ? "" : m_lines.front().lineBreak();
-    if (strLineBreak.empty())
-        strLineBreak = "\n";
+    const std::string strFirst = m_lines.empty() ? std::string() : m_lines.front().lineBreak();
+    const std::string strLineBreak = strFirst.empty() ? std::string(1, '\n') : strFirst;
     if (!m_lines.empty() && m_lines.back().lineBreak().empty())
         m_lines.back().appendLineBreak(strLineBreak);
     m_lines.emplace_back(strKey, strValue, strLineBreak);

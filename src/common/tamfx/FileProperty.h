@@ -39,8 +39,8 @@ public:
     virtual void setProperty(const char* pszKey, const char* pszValue);
 
     /**
-     * Value of a key, "" when absent. The text stays readable until the next
-     * setProperty or openProperty of this file.
+     * Value of a key, "" when absent. The text stays readable until the next setProperty or
+     * openProperty of this file.
      */
     virtual const char* getProperty(const char* pszKey) const;
 

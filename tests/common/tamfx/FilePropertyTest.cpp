@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/file.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -35,6 +36,13 @@ const std::string written = "# panel\n"
                             "Empty =\n"
                             "Quoted = \" two lines:\\n\\\"1\\\" \\\\ 2 \"\n"
                             "last = line";
+
+/** The file with one of its texts replaced. */
+std::string writtenWith(const std::string& text, const std::string& replaced)
+{
+    const auto begin = written.find(replaced);
+    return written.substr(0, begin) + text + written.substr(begin + replaced.size());
+}
 
 class FilePropertyTest : public ::testing::Test
 {
@@ -201,15 +209,10 @@ TEST_F(FilePropertyTest, WritesAnUnchangedFileBackByteForByte)
 
 TEST_F(FilePropertyTest, ChangesTheValueAndNothingElse)
 {
-    std::string expected = written;
-    expected.replace(expected.find("= kr"), 4, "= fra");
-    EXPECT_EQ(changed(written, "Language", "fra"), expected);
-    expected = written;
-    expected.replace(expected.find("/app/bin/resource/"), 18, "/data/");
-    EXPECT_EQ(changed(written, "ResourcePath", "/data/"), expected);
-    expected = written;
-    expected.replace(expected.find("a = b # c"), 9, "x");
-    EXPECT_EQ(changed(written, "Other key", "x"), expected);
+    EXPECT_EQ(changed(written, "Language", "fra"), writtenWith("= fra", "= kr"));
+    EXPECT_EQ(changed(written, "ResourcePath", "/data/"),
+              writtenWith("/data/", "/app/bin/resource/"));
+    EXPECT_EQ(changed(written, "Other key", "x"), writtenWith("x", "a = b # c"));
     EXPECT_EQ(changed("\xEF\xBB\xBFk = v\r\nl = w\r\n", "k", "x"),
               "\xEF\xBB\xBFk = x\r\nl = w\r\n");
 }
@@ -518,6 +521,17 @@ TEST_F(FilePropertyTest, ReplacesTheFileBehindALinkAndKeepsTheLink)
     EXPECT_EQ(m_folder.entries(), "a.cfg data");
 }
 
+TEST_F(FilePropertyTest, KeepsALinkThatWasMadeAfterTheFileWasOpened)
+{
+    FileProperty* const file = open("key = old\n");
+    std::filesystem::rename(m_folder.path("a.cfg"), m_folder.path("moved.cfg"));
+    std::filesystem::create_symlink("moved.cfg", m_folder.path("a.cfg"));
+    file->setProperty("key", "new");
+    EXPECT_TRUE(file->Update());
+    EXPECT_TRUE(std::filesystem::is_symlink(m_folder.path("a.cfg")));
+    EXPECT_EQ(m_folder.read("moved.cfg"), "key = new\n");
+}
+
 TEST_F(FilePropertyTest, CreatesTheFileBehindALinkThatLeadsNowhereYet)
 {
     std::filesystem::create_directory(m_folder.path("data"));
@@ -567,6 +581,7 @@ TEST_F(FilePropertyTest, ShowsEveryReaderAWholeFileWhileItIsUpdated)
     const std::string filler(20000, 'x');
     const pid_t reader = fork();
     if (reader == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL); // whatever becomes of the test
         for (;;) {
             const std::string content = m_folder.read("a.cfg");
             if (content.rfind("key = ", 0) != 0 || content.back() != '\n')

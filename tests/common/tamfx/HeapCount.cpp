@@ -14,7 +14,11 @@
 #endif
 
 #if WITH_ADDRESS_SANITIZER
-#include <sanitizer/allocator_interface.h>
+// as in <sanitizer/allocator_interface.h>, which not every compiler brings along
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void*,
+                                                                  std::size_t),
+                                                         void (*)(const volatile void*));
+extern "C" std::size_t __sanitizer_get_allocated_size(const volatile void*);
 #endif
 
 namespace {
@@ -64,7 +68,7 @@ void givenHook(const volatile void* piece, std::size_t size)
 void takenHook(const volatile void* piece)
 {
     if (piece)
-        noteTaken(__sanitizer_get_allocated_size(const_cast<const void*>(piece)));
+        noteTaken(__sanitizer_get_allocated_size(piece));
 }
 
 const int hooks = __sanitizer_install_malloc_and_free_hooks(givenHook, takenHook);

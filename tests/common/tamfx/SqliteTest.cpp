@@ -320,7 +320,13 @@ TEST_F(SqliteTest, ThrowsWithoutAnOpenDatabase)
     EXPECT_EQ(codeOf([&] { database.Execute("SELECT 1", busyTimeout); }), SQLITE_MISUSE);
     EXPECT_EQ(codeOf([&] { database.getTable("SELECT 1", table); }), SQLITE_MISUSE);
     m_database.Close();
-    EXPECT_EQ(codeOfRun("SELECT 1"), SQLITE_MISUSE);
+    try {
+        run("SELECT 1");
+        FAIL() << "nothing thrown";
+    } catch (const DBException& exception) {
+        EXPECT_STREQ(exception.GetMessage(), "no database is open");
+        EXPECT_EQ(exception.GetCode(), SQLITE_MISUSE);
+    }
 }
 
 TEST_F(SqliteTest, WorksOnAfterAFailedStatement)
