@@ -75,10 +75,6 @@ class Install:
 
     def install(self):
         run(self.options.cmake, "--install", self.options.build, "--prefix", self.prefix)
-        for package in (self.library_folder / "pkgconfig").glob("*.pc"):
-            # they name the prefix that the build was configured with
-            text = package.read_text()
-            package.write_text(re.sub(r"^prefix=.*", f"prefix={self.prefix}", text, count=1))
 
     def check_run(self, program, how):
         out = run(
