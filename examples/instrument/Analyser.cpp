@@ -1,15 +1,30 @@
 #include "Analyser.h"
 
+#include <QDateTime>
 #include <QString>
 
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+std::string number(const Analyser::Channel& channel, double dValue, int nPlaces)
+{
+    return QString::number(dValue * channel.dFactor + channel.dOffset, 'f', nPlaces).toStdString();
+}
+
+std::string daysAgo(int nDays)
+{
+    return QDate::currentDate().addDays(-nDays).toString(Qt::ISODate).toStdString();
+}
+
+} // namespace
+
 Analyser::Analyser()
-    : m_channels{{"ph", "pH", 2, 0, 14, 7.24, 0.12, 0.31},
-                 {"cond", "μS/cm", 0, 0, 1000, 412, 14, 0.23},
-                 {"oxygen", "mg/L", 2, 0, 15, 8.41, 0.22, 0.37},
-                 {"temp", "°C", 1, 0, 50, 21.4, 0.6, 0.17}}
+    : m_channels{{"ph", "pH", 2, 0, 14, 7.24, 0.12, 0.31, 7.60},
+                 {"cond", "μS/cm", 0, 0, 1000, 412, 14, 0.23, 500},
+                 {"oxygen", "mg/L", 2, 0, 15, 8.41, 0.22, 0.37, 12},
+                 {"temp", "°C", 1, 0, 50, 21.4, 0.6, 0.17, 30}}
     , m_records{{"10:42", "W-0148", {7.21, 418, 8.36, 21.3}},
                 {"10:31", "W-0147", {7.34, 402, 8.58, 20.9}},
                 {"10:18", "W-0146", {6.98, 655, 7.12, 22.0}},
@@ -21,6 +36,7 @@ Analyser::Analyser()
 {
     for (int i = 0; i < trendLength; ++i)
         measure();
+    m_strCalibrated = daysAgo(19);
 }
 
 void Analyser::measure()
@@ -34,7 +50,44 @@ void Analyser::measure()
     }
 }
 
+void Analyser::store(const std::vector<Channel>& readings)
+{
+    const QString strTime = QTime::currentTime().toString(QStringLiteral("HH:mm"));
+    const QString strSample = QString::asprintf("W-%04d", ++m_nSample);
+    Record record = {strTime.toStdString(), strSample.toStdString(), {}};
+    for (std::size_t n = 0; n < record.values.size(); ++n)
+        record.values[n] = readings[n].readings.back();
+    m_records.insert(m_records.begin(), record);
+    if (m_records.size() > recordLimit)
+        m_records.pop_back();
+}
+
+void Analyser::stepLimit(std::size_t nChannel, int nSteps)
+{
+    Channel& channel = m_channels[nChannel];
+    const double dStep = std::pow(10, -channel.nPlaces) / channel.dFactor;
+    channel.dLimit = std::clamp(channel.dLimit + nSteps * dStep, channel.dLow, channel.dHigh);
+}
+
+void Analyser::setFahrenheit(bool bFahrenheit)
+{
+    Channel& channel = m_channels[temperatureAt];
+    channel.strUnit = bFahrenheit ? "°F" : "°C";
+    channel.dFactor = bFahrenheit ? 1.8 : 1;
+    channel.dOffset = bFahrenheit ? 32 : 0;
+}
+
+void Analyser::setCalibrated()
+{
+    m_strCalibrated = daysAgo(0);
+}
+
 std::string Analyser::text(const Channel& channel, double dValue)
 {
-    return QString::number(dValue, 'f', channel.nPlaces).toStdString();
+    return number(channel, dValue, channel.nPlaces);
+}
+
+std::string Analyser::wholeText(const Channel& channel, double dValue)
+{
+    return number(channel, dValue, 0);
 }

@@ -8,7 +8,9 @@
 class Analyser
 {
 public:
-    static constexpr int trendLength = 20; ///< readings that are kept; what a chart box can show
+    static constexpr int trendLength = 20;          ///< readings that are kept; what a chart shows
+    static constexpr std::size_t recordLimit = 8;   ///< stored measurements; what the table shows
+    static constexpr std::size_t temperatureAt = 3; ///< place of the temperature among the channels
 
     struct Channel
     {
@@ -17,7 +19,11 @@ public:
         int nPlaces;                                   ///< decimal places of a reading
         double dLow, dHigh;                            ///< range of the gauge
         double dMiddle, dSwing, dPace;                 ///< what the simulation wanders around
+        double dLimit;                                 ///< a reading above it raises the alarm
+        double dFactor = 1, dOffset = 0;               ///< from a value to the one that is shown
         std::array<double, trendLength> readings = {}; ///< oldest first
+
+        bool isAboveLimit() const { return readings.back() > dLimit; }
     };
 
     /// One stored measurement.
@@ -33,14 +39,34 @@ public:
     /// Takes one more reading of each channel; the oldest one goes.
     void measure();
 
+    /// Stores these readings as a measurement; the oldest one goes when there is no more room.
+    void store(const std::vector<Channel>& readings);
+    void clearRecords() { m_records.clear(); }
+
+    /// Moves the limit of a channel by so many units of the last place shown, within its range.
+    void stepLimit(std::size_t nChannel, int nSteps);
+
+    /// Shows the temperature in degrees Fahrenheit, or else Celsius.
+    void setFahrenheit(bool bFahrenheit);
+    bool isFahrenheit() const { return m_channels[temperatureAt].dFactor != 1; }
+
+    /// Notes that the sensor has been calibrated today.
+    void setCalibrated();
+
     const std::vector<Channel>& channels() const { return m_channels; }
-    const std::vector<Record>& records() const { return m_records; }
+    const std::vector<Record>& records() const { return m_records; } ///< newest first
+    const std::string& calibrationDate() const { return m_strCalibrated; }
 
     /// A value of the channel as it is shown, without its unit.
     static std::string text(const Channel& channel, double dValue);
 
+    /// The same as a whole number.
+    static std::string wholeText(const Channel& channel, double dValue);
+
 private:
     std::vector<Channel> m_channels;
     std::vector<Record> m_records;
-    int m_nTime = 0; ///< readings taken since the start
+    std::string m_strCalibrated;
+    int m_nSample = 148; ///< number of the newest sample
+    int m_nTime = 0;     ///< readings taken since the start
 };

@@ -1,23 +1,31 @@
 #include "InstrumentFrame.h"
 
 #include "pages/HomePage.h"
+#include "pages/LanguagePage.h"
 #include "pages/MeasurePage.h"
 #include "pages/ResultsPage.h"
 #include "pages/SettingsPage.h"
+#include "sound/ConsoleSound.h"
 
 #include "common/tamfx/FileProperty.h"
 #include "events/EventNumbers.h"
 #include "events/Timer.h"
 #include "events/ZELEvent.h"
+#include "resource/SoundFactory.h"
 #include "resource/ZELResourceMgr.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
+using PANFx::Resource::SoundFactory;
 using PANFx::Resource::ZELResourceMgr;
 using PANFx::Windows::ZELChildWindow;
 
 InstrumentFrame::InstrumentFrame()
+    : m_pSound(new ConsoleSound)
 {
+    SoundFactory::getInstance()->registerSound(m_pSound);
     setMainWindowID("home");
     m_pTimer->start(1000);
 }
@@ -32,7 +40,15 @@ ZELChildWindow* InstrumentFrame::createChildWindow(std::string strID)
         return new ResultsPage(strID, this);
     if (strID == "settings")
         return new SettingsPage(strID, this);
+    if (strID == "language")
+        return new LanguagePage(strID, this);
     return nullptr;
+}
+
+void InstrumentFrame::setSettings(const Settings& settings)
+{
+    m_settings = settings;
+    m_pSound->setTouchSound(settings.bTouchSound);
 }
 
 void InstrumentFrame::changeLanguage(const std::string& strLocale)
@@ -59,7 +75,19 @@ bool InstrumentFrame::event(QEvent* pEvent)
     if (pEvent->type() != EVENT_TIMER)
         return ZELMainFrame::event(pEvent);
     m_analyser.measure();
+    watchLimits();
     if (ZELChildWindow* pPage = getCurrentWindow())
         QCoreApplication::postEvent(pPage, new ZELEvent(EVENT_READING));
     return true;
+}
+
+void InstrumentFrame::watchLimits()
+{
+    const std::vector<Analyser::Channel>& channels = m_analyser.channels();
+    const bool bAbove =
+        std::any_of(channels.begin(), channels.end(),
+                    [](const Analyser::Channel& channel) { return channel.isAboveLimit(); });
+    if (bAbove && !m_bAboveLimit && !m_settings.bAlarmMuted)
+        SoundFactory::getInstance()->playWarningSound();
+    m_bAboveLimit = bAbove;
 }

@@ -1,15 +1,19 @@
 #pragma once
 
 #include "Analyser.h"
+#include "Settings.h"
 
 #include "windows/ZELMainFrame.h"
 
 #include <QEvent>
 
+class ConsoleSound;
+
 /// Posted once a second to the page on screen, as a ZELEvent: there are new readings.
 constexpr QEvent::Type EVENT_READING = QEvent::Type(2001);
 
-/// The one top-level window: it makes the pages, reads the analyser and changes the language.
+/// The one top-level window: it makes the pages, reads the analyser, sounds the alarm and changes
+/// the language.
 class InstrumentFrame : public PANFx::Windows::ZELMainFrame
 {
 public:
@@ -17,7 +21,9 @@ public:
 
     PANFx::Windows::ZELChildWindow* createChildWindow(std::string strID) override;
 
-    const Analyser& analyser() const { return m_analyser; }
+    Analyser& analyser() { return m_analyser; }
+    const Settings& settings() const { return m_settings; }
+    void setSettings(const Settings& settings);
 
     /// Switches to another language and goes back one page. Meant to be called by the page on
     /// screen from its own event(): that page is deleted once it has returned from there.
@@ -31,7 +37,11 @@ protected:
 
 private:
     void rememberLanguage(const std::string& strLocale);
+    void watchLimits();
 
     Analyser m_analyser;
+    Settings m_settings;
+    ConsoleSound* m_pSound; ///< belongs to the sound factory
     bool m_bRemembersLanguage = true;
+    bool m_bAboveLimit = false; ///< a channel was above its limit at the last reading
 };

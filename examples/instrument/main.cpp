@@ -1,7 +1,8 @@
 #include "InstrumentFrame.h"
-#include "Tour.h"
+#include "tour/Tour.h"
 
 #include "components/ComponentFactory.h"
+#include "resource/SoundFactory.h"
 #include "resource/ZELResourceMgr.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <cstring>
 
 using PANFx::Components::ComponentFactory;
+using PANFx::Resource::SoundFactory;
 using PANFx::Resource::ZELResourceMgr;
 
 namespace {
@@ -94,6 +96,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const int nResult = options.pszTour != nullptr ? runTour(options.pszTour) : runPanel();
     ComponentFactory::destroyInstance();
+    SoundFactory::destroyInstance();
     ZELResourceMgr::destroyInstance();
     return nResult;
 }

@@ -159,4 +159,81 @@ QPainterPath chevron()
     return path;
 }
 
+QPainterPath tick()
+{
+    QPainterPath path;
+    addLine(path, {{10, 25}, {20, 35}, {38, 13}});
+    return path;
+}
+
+QPainterPath plus()
+{
+    QPainterPath path = minus();
+    addLine(path, {{24, 10}, {24, 38}});
+    return path;
+}
+
+QPainterPath minus()
+{
+    QPainterPath path;
+    addLine(path, {{10, 24}, {38, 24}});
+    return path;
+}
+
+QPainterPath store()
+{
+    QPainterPath path;
+    addLine(path, {{24, 6}, {24, 29}});
+    addLine(path, {{14, 20}, {24, 30}, {34, 20}});
+    addLine(path, {{8, 31}, {8, 41}, {40, 41}, {40, 31}});
+    return path;
+}
+
+QPainterPath printer()
+{
+    QPainterPath path;
+    addLine(path, {{14, 16}, {14, 6}, {34, 6}, {34, 16}});
+    addLine(path, {{14, 34}, {7, 34}, {7, 16}, {41, 16}, {41, 34}, {34, 34}});
+    path.addRect(14, 28, 20, 14);
+    return path;
+}
+
+QPainterPath bin()
+{
+    QPainterPath path;
+    addLine(path, {{8, 13}, {40, 13}});
+    addLine(path, {{18, 13}, {18, 7}, {30, 7}, {30, 13}});
+    addLine(path, {{12, 13}, {14, 42}, {34, 42}, {36, 13}});
+    addLine(path, {{21, 21}, {21, 34}});
+    addLine(path, {{27, 21}, {27, 34}});
+    return path;
+}
+
+QPainterPath bell()
+{
+    QPainterPath path;
+    path.moveTo(9, 35);
+    path.cubicTo(14, 31, 13, 25, 13, 20);
+    path.cubicTo(13, 6, 35, 6, 35, 20);
+    path.cubicTo(35, 25, 34, 31, 39, 35);
+    path.closeSubpath();
+    path.moveTo(20, 41);
+    path.quadTo(24, 44, 28, 41);
+    return path;
+}
+
+QPainterPath stirrer()
+{
+    QPainterPath path;
+    addLine(path, {{24, 5}, {24, 24}});
+    path.moveTo(24, 24);
+    path.cubicTo(16, 15, 6, 20, 8, 27);
+    path.cubicTo(10, 33, 19, 31, 24, 24);
+    path.cubicTo(32, 15, 42, 20, 40, 27);
+    path.cubicTo(38, 33, 29, 31, 24, 24);
+    path.moveTo(12, 40);
+    path.quadTo(24, 46, 36, 40);
+    return path;
+}
+
 } // namespace art

@@ -18,5 +18,13 @@ QPainterPath oxygen();
 QPainterPath thermometer();
 QPainterPath arrowBack();
 QPainterPath chevron();
+QPainterPath tick();
+QPainterPath plus();
+QPainterPath minus();
+QPainterPath store();
+QPainterPath printer();
+QPainterPath bin();
+QPainterPath bell();
+QPainterPath stirrer();
 
 } // namespace art

@@ -17,6 +17,13 @@ const QColor line(0x22, 0x32, 0x43);
 const QColor quiet(0x6C, 0x82, 0x99);
 const QColor white(0xF4, 0xF8, 0xFC);
 
+// a button that takes no touches: a grey plate with everything cut into it
+const QColor plateTop(0x6B, 0x79, 0x88);
+const QColor plateBottom(0x60, 0x6E, 0x7C);
+const QColor plateEdge(0x7A, 0x89, 0x98);
+const QColor cut(0x1C, 0x26, 0x30);
+const QColor cutEdge(0xC8, 0xC8, 0xC8); // the tone that the buttons give to dimmed titles
+
 const QColor blue(0x5B, 0x8D, 0xEF);   // the chart's own line is a darker tone of it
 const QColor teal(0x2B, 0xB8, 0xB0);   // measuring, dissolved oxygen
 const QColor violet(0x9A, 0x7B, 0xF2); // pH value

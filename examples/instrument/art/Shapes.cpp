@@ -19,6 +19,12 @@ QLinearGradient vertical(const QRectF& rect, const QColor& top, const QColor& bo
     return gradient;
 }
 
+QColor transparent(QColor color, int nAlpha)
+{
+    color.setAlpha(nAlpha);
+    return color;
+}
+
 /// A fill with an edge of one pixel that lies wholly inside of the rectangle.
 void drawField(QPainter& painter, const QRectF& rect, qreal dRadius, const QBrush& fill,
                const QBrush& outline)
@@ -61,27 +67,40 @@ void drawWell(QPainter& painter, const QRectF& rect, qreal dRadius)
 void drawTile(QPainter& painter, const QRectF& rect, qreal dRadius, State state,
               const QColor& accent)
 {
+    const QRectF inside = rect.adjusted(1, 1, -1, -1);
     switch (state) {
     case State::Up:
         drawPanel(painter, rect, dRadius);
         break;
     case State::Down:
         drawField(painter, rect, dRadius, vertical(rect, well, panelBottom), edge);
+        painter.setPen(QPen(accent.darker(150), 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(inside, dRadius - 1, dRadius - 1);
         break;
     case State::Dim:
-        painter.setOpacity(0.4);
-        drawPanel(painter, rect, dRadius);
-        painter.setOpacity(1);
+        drawField(painter, rect, dRadius, vertical(rect, plateTop, plateBottom), plateEdge);
         break;
     case State::On:
         drawPanel(painter, rect, dRadius);
-        QColor glow = accent;
-        glow.setAlpha(40);
         painter.setPen(QPen(accent, 2));
-        painter.setBrush(glow);
-        painter.drawRoundedRect(rect.adjusted(1, 1, -1, -1), dRadius - 1, dRadius - 1);
+        painter.setBrush(transparent(accent, 40));
+        painter.drawRoundedRect(inside, dRadius - 1, dRadius - 1);
         break;
     }
+}
+
+void drawFilled(QPainter& painter, const QRectF& rect, qreal dRadius, State state,
+                const QColor& color)
+{
+    if (state == State::Dim)
+        drawTile(painter, rect, dRadius, state, color);
+    else if (state == State::Down)
+        drawField(painter, rect, dRadius, vertical(rect, color.darker(230), color.darker(180)),
+                  color.darker(130));
+    else
+        drawField(painter, rect, dRadius, vertical(rect, color.darker(115), color.darker(160)),
+                  vertical(rect, color.lighter(110), color.darker(140)));
 }
 
 void drawIcon(QPainter& painter, const QPainterPath& icon, const QRectF& rect, const QColor& color,
@@ -92,6 +111,17 @@ void drawIcon(QPainter& painter, const QPainterPath& icon, const QRectF& rect, c
     painter.scale(rect.width() / 48, rect.height() / 48);
     painter.strokePath(icon, QPen(color, dPen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.restore();
+}
+
+void drawMark(QPainter& painter, const QPainterPath& icon, const QRectF& rect, State state,
+              const QColor& color, qreal dPen)
+{
+    if (state == State::Dim) {
+        drawIcon(painter, icon, rect.translated(1, 1), cutEdge, dPen);
+        drawIcon(painter, icon, rect, cut, dPen);
+    } else {
+        drawIcon(painter, icon, rect, state == State::Down ? blue.lighter(130) : color, dPen);
+    }
 }
 
 QImage badge(const QPainterPath& icon, int nSize, const QColor& color)

@@ -25,13 +25,21 @@ void drawPanel(QPainter& painter, const QRectF& rect, qreal dRadius);
 /// A sunk field.
 void drawWell(QPainter& painter, const QRectF& rect, qreal dRadius);
 
-/// A panel in one of its states; `accent` is the colour of the edge when it is chosen.
+/// A panel in one of its states; `accent` is the colour of the edge when it is pressed or chosen.
 void drawTile(QPainter& painter, const QRectF& rect, qreal dRadius, State state,
               const QColor& accent);
 
 /// Strokes a drawing of 48 by 48 units into a square.
 void drawIcon(QPainter& painter, const QPainterPath& icon, const QRectF& rect, const QColor& color,
               qreal dPen);
+
+/// Strokes a drawing as it looks on a button of that state; `color` is that of the raised one.
+void drawMark(QPainter& painter, const QPainterPath& icon, const QRectF& rect, State state,
+              const QColor& color, qreal dPen);
+
+/// A button filled with a colour, raised or sunk.
+void drawFilled(QPainter& painter, const QRectF& rect, qreal dRadius, State state,
+                const QColor& color);
 
 /// A coloured, rounded square with a white drawing in it.
 QImage badge(const QPainterPath& icon, int nSize, const QColor& color);

@@ -4,13 +4,10 @@
 
 bool HomePage::event(QEvent* pEvent)
 {
-    const std::string strName = touchedName(pEvent);
-    if (strName == "measure" || strName == "results" || strName == "settings")
-        m_pFrame->moveTo(strName, true, true);
-    else if (strName == "language")
-        m_pFrame->moveTo("settings", true, true);
-    else
+    const std::string strID = touchedID(pEvent);
+    if (strID != "measure" && strID != "results" && strID != "settings" && strID != "language")
         return InstrumentPage::event(pEvent);
+    m_pFrame->moveTo(strID, true, true); // each button has the name of its page
     return true;
 }
 

@@ -2,20 +2,43 @@
 
 #include "InstrumentFrame.h"
 
-#include "components/pictures/ZELImageBox.h"
-#include "components/text/ZELLabel.h"
-#include "events/EventNumbers.h"
-#include "events/ZELEvent.h"
+#include "components/buttons/ZELImageButton.h"
 
 #include <QDateTime>
 
-using PANFx::Components::ZELImageBox;
-using PANFx::Components::ZELLabel;
+#include <algorithm>
+
+using PANFx::Components::ZELComponent;
+using PANFx::Components::ZELImageButton;
 
 InstrumentPage::InstrumentPage(const std::string& strID, InstrumentFrame* pFrame)
     : ZELChildWindow(strID, pFrame, "")
     , m_pFrame(pFrame)
 {
+    mountCaptions();
+}
+
+// A button has one title. A label "measure.note" becomes a second one of the button "measure": it
+// moves with it, and a touch on it is a touch on the button.
+void InstrumentPage::mountCaptions()
+{
+    for (ZELComponent* pLabel : m_dqSubComponents) {
+        const std::string strButton = pLabel->m_strID.substr(0, pLabel->m_strID.find('.'));
+        const auto isButton = [&](const ZELComponent* pOther) {
+            return pOther->m_strType == "ZELImageButton" && pOther->m_strID == strButton;
+        };
+        const auto found =
+            std::find_if(m_dqSubComponents.begin(), m_dqSubComponents.end(), isButton);
+        if (pLabel->m_strType != "ZELLabel" || found == m_dqSubComponents.end())
+            continue;
+        QWidget* pCaption = pLabel->getQWidget();
+        QWidget* pButton = (*found)->getQWidget();
+        const QPoint place = pCaption->pos() - pButton->pos();
+        pCaption->setParent(pButton);
+        pCaption->move(place);
+        pCaption->setAttribute(Qt::WA_TransparentForMouseEvents);
+        pCaption->show();
+    }
 }
 
 bool InstrumentPage::event(QEvent* pEvent)
@@ -32,31 +55,18 @@ void InstrumentPage::showValues()
     setText("clock", now.toString(QStringLiteral("yyyy-MM-dd  HH:mm")).toStdString());
 }
 
-const Analyser& InstrumentPage::analyser() const
+Analyser& InstrumentPage::analyser()
 {
     return m_pFrame->analyser();
 }
 
-std::string InstrumentPage::touchedName(QEvent* pEvent)
-{
-    if (pEvent->type() != EVENT_MOUSE_UP)
-        return "";
-    const std::string& strID = ZELEvent::from(pEvent)->m_strID;
-    return strID.substr(0, strID.find('.'));
-}
-
 void InstrumentPage::setText(const std::string& strLabel, const std::string& strText)
 {
-    if (ZELLabel* pLabel = component<ZELLabel>(strLabel, "ZELLabel")) {
-        pLabel->setTitle(strText);
-        pLabel->update();
-    }
+    showText(getSubComponent(strLabel), strText);
 }
 
-void InstrumentPage::setPicture(const std::string& strImageBox, const std::string& strFile)
+void InstrumentPage::setDimmed(const std::string& strButton, bool bDimmed)
 {
-    if (ZELImageBox* pBox = component<ZELImageBox>(strImageBox, "ZELImageBox")) {
-        pBox->setImage(strFile);
-        pBox->update();
-    }
+    if (auto* pButton = component<ZELImageButton>(strButton, "ZELImageButton"))
+        pButton->setDimMode(bDimmed);
 }

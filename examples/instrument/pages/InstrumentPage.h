@@ -1,6 +1,7 @@
 #pragma once
 
-#include "components/ZELComponent.h"
+#include "ComponentAccess.h"
+
 #include "windows/ZELChildWindow.h"
 
 class Analyser;
@@ -18,26 +19,25 @@ public:
 protected:
     bool event(QEvent* pEvent) override;
 
-    /// Writes the present values into the labels; here the clock.
+    /// Writes the present values into the components; here the clock.
     virtual void showValues();
 
-    const Analyser& analyser() const;
-
-    /// The id of what was touched, up to its first dot, or "" for any other event. So a touch on
-    /// "measure", "measure.icon" or "measure.title" is the same touch.
-    static std::string touchedName(QEvent* pEvent);
+    Analyser& analyser();
 
     /// The component of that id, or null if there is none or it is of another type.
     template <class T>
     T* component(const std::string& strID, const char* pszType)
     {
-        PANFx::Components::ZELComponent* pComponent = getSubComponent(strID);
-        const bool bFits = pComponent != nullptr && pComponent->m_strType == pszType;
-        return bFits ? static_cast<T*>(pComponent) : nullptr;
+        return componentAs<T>(getSubComponent(strID), pszType);
     }
 
     void setText(const std::string& strLabel, const std::string& strText);
-    void setPicture(const std::string& strImageBox, const std::string& strFile);
+
+    /// Switches a button off or on again: in dim mode it shows its third picture and style.
+    void setDimmed(const std::string& strButton, bool bDimmed);
 
     InstrumentFrame* m_pFrame;
+
+private:
+    void mountCaptions();
 };

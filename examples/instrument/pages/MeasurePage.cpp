@@ -2,43 +2,73 @@
 
 #include "InstrumentFrame.h"
 
+#include "components/buttons/ZELImageButton.h"
 #include "components/pictures/ZELChartImageBox.h"
 #include "components/pictures/ZELPieImageBox.h"
-#include "resource/ZELResourceMgr.h"
+#include "components/text/ZELLabel.h"
+#include "events/EventNumbers.h"
+#include "resource/SoundFactory.h"
 
 #include <algorithm>
 
 using PANFx::Components::ZELChartImageBox;
+using PANFx::Components::ZELImageButton;
+using PANFx::Components::ZELLabel;
 using PANFx::Components::ZELPieImageBox;
-using PANFx::Resource::ZELResourceMgr;
+using PANFx::Resource::SoundFactory;
 
 namespace {
 
 const int chartMargin = 10; // pixels between the edge of the chart and its line
-
-std::string wholeNumber(double dValue)
-{
-    return std::to_string(static_cast<int>(dValue));
-}
+const int holdTime = 5;     // readings
+const int fastSteps = 10;   // of the limit, at each tick of a button that is held for long
 
 } // namespace
 
+MeasurePage::MeasurePage(const std::string& strID, InstrumentFrame* pFrame)
+    : InstrumentPage(strID, pFrame)
+    , m_shown(analyser().channels())
+{
+    showChoice(m_nChannel, true);
+}
+
+void MeasurePage::activating()
+{
+    m_nHeld = 0;
+    m_bStepped = false;
+    InstrumentPage::activating();
+}
+
 bool MeasurePage::event(QEvent* pEvent)
 {
-    const std::string strName = touchedName(pEvent);
-    if (strName == "back")
+    const std::string strID = touchedID(pEvent);
+    if (pEvent->type() == EVENT_LONG_PRESS || pEvent->type() == EVENT_LONG_PRESS_HELD) {
+        stepLimit(senderID(pEvent), pEvent->type() == EVENT_LONG_PRESS ? 1 : fastSteps);
+        m_bStepped = true;
+    } else if (strID == "limit_minus" || strID == "limit_plus") {
+        // the end of a long press is a touch too, and must not step once more
+        if (!m_bStepped)
+            stepLimit(strID, 1);
+        m_bStepped = false;
+    } else if (strID == "back") {
         m_pFrame->moveBack(true);
-    else if (!choose(strName))
+    } else if (strID == "save") {
+        save();
+    } else if (!choose(strID)) {
+        if (pEvent->type() == EVENT_READING)
+            m_nHeld = std::max(0, m_nHeld - 1);
         return InstrumentPage::event(pEvent);
+    }
     return true;
 }
 
-bool MeasurePage::choose(const std::string& strName)
+bool MeasurePage::choose(const std::string& strID)
 {
-    const std::vector<Analyser::Channel>& channels = analyser().channels();
-    for (std::size_t n = 0; n < channels.size(); ++n) {
-        if (channels[n].strName == strName) {
+    for (std::size_t n = 0; n < m_shown.size(); ++n) {
+        if (m_shown[n].strName == strID) {
+            showChoice(m_nChannel, false);
             m_nChannel = n;
+            showChoice(m_nChannel, true);
             showValues();
             return true;
         }
@@ -46,22 +76,54 @@ bool MeasurePage::choose(const std::string& strName)
     return false;
 }
 
+void MeasurePage::stepLimit(const std::string& strID, int nSteps)
+{
+    analyser().stepLimit(m_nChannel, strID == "limit_plus" ? nSteps : -nSteps);
+    showValues();
+}
+
+void MeasurePage::save()
+{
+    analyser().store(m_shown);
+    SoundFactory::getInstance()->playCompleteSound();
+    if (m_pFrame->settings().bAutoHold)
+        m_nHeld = holdTime;
+    showValues();
+}
+
 void MeasurePage::showValues()
 {
     InstrumentPage::showValues();
-    showTiles();
-    showGauge(analyser().channels()[m_nChannel]);
-    showTrend(analyser().channels()[m_nChannel]);
+    if (m_nHeld == 0)
+        m_shown = analyser().channels();
+    setDimmed("save", m_nHeld > 0);
+    showButtons();
+    const Analyser::Channel& channel = m_shown[m_nChannel];
+    showGauge(channel);
+    showState(channel);
+    showTrend(channel);
 }
 
-void MeasurePage::showTiles()
+// Done at a choice only: new pictures would also end the look of a button that is held.
+void MeasurePage::showChoice(std::size_t nChannel, bool bChosen)
 {
-    const std::vector<Analyser::Channel>& channels = analyser().channels();
-    for (std::size_t n = 0; n < channels.size(); ++n) {
-        const Analyser::Channel& channel = channels[n];
-        const std::string strReading = Analyser::text(channel, channel.readings.back());
-        setPicture(channel.strName, n == m_nChannel ? "channel_on.png" : "channel_up.png");
-        setText(channel.strName + ".value", strReading + " " + channel.strUnit);
+    const std::string strName = m_shown[nChannel].strName;
+    const std::string strPicture = "channel_" + strName;
+    if (auto* pButton = component<ZELImageButton>(strName, "ZELImageButton")) {
+        pButton->setImages(strPicture + "_down.png", strPicture + (bChosen ? "_on.png" : "_up.png"),
+                           strPicture + "_dim.png");
+        pButton->update();
+    }
+}
+
+void MeasurePage::showButtons()
+{
+    for (const Analyser::Channel& channel : m_shown) {
+        if (auto* pButton = component<ZELImageButton>(channel.strName, "ZELImageButton")) {
+            pButton->setTitle(Analyser::text(channel, channel.readings.back()) + " " +
+                              channel.strUnit);
+            pButton->update();
+        }
     }
 }
 
@@ -74,10 +136,23 @@ void MeasurePage::showGauge(const Analyser::Channel& channel)
         // the angle is what the box hides of its ring
         pGauge->SetAngle(360 - static_cast<int>(360 * std::clamp(dShare, 0.0, 1.0)));
     }
-    setText("name", ZELResourceMgr::getInstance()->getLocaleString("@" + channel.strName));
+    setText("name", localText("@" + channel.strName));
     setText("value", Analyser::text(channel, dReading));
     setText("unit", channel.strUnit);
-    setText("range", wholeNumber(channel.dLow) + " – " + wholeNumber(channel.dHigh));
+    setText("range", Analyser::wholeText(channel, channel.dLow) + " – " +
+                         Analyser::wholeText(channel, channel.dHigh));
+}
+
+void MeasurePage::showState(const Analyser::Channel& channel)
+{
+    const double dLimit = analyser().channels()[m_nChannel].dLimit;
+    const bool bAbove = channel.readings.back() > dLimit;
+    for (const char* pszLabel : {"value", "state"}) {
+        if (auto* pLabel = component<ZELLabel>(pszLabel, "ZELLabel"))
+            pLabel->setFontStyle(bAbove ? 1 : 0);
+    }
+    setText("state", bAbove ? localText("@above") : m_nHeld > 0 ? localText("@held") : "");
+    setText("limit", Analyser::text(channel, dLimit));
 }
 
 void MeasurePage::showTrend(const Analyser::Channel& channel)

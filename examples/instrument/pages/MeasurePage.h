@@ -3,21 +3,32 @@
 #include "Analyser.h"
 #include "pages/InstrumentPage.h"
 
-/// Live readings: one channel large, with its gauge and trend; a touch on a tile chooses another.
+/// Live readings: one channel large, with its gauge, trend and upper limit; the buttons at the
+/// bottom choose another.
 class MeasurePage : public InstrumentPage
 {
 public:
-    using InstrumentPage::InstrumentPage;
+    MeasurePage(const std::string& strID, InstrumentFrame* pFrame);
+
+    void activating() override;
 
 protected:
     bool event(QEvent* pEvent) override;
     void showValues() override;
 
 private:
-    bool choose(const std::string& strName);
-    void showTiles();
+    bool choose(const std::string& strID);
+    void stepLimit(const std::string& strID, int nSteps);
+    void save();
+
+    void showChoice(std::size_t nChannel, bool bChosen);
+    void showButtons();
     void showGauge(const Analyser::Channel& channel);
+    void showState(const Analyser::Channel& channel);
     void showTrend(const Analyser::Channel& channel);
 
-    std::size_t m_nChannel = 0; ///< the one that is shown large
+    std::vector<Analyser::Channel> m_shown; ///< the readings on the page
+    std::size_t m_nChannel = 0;             ///< the one that is shown large
+    int m_nHeld = 0;                        ///< readings for which those on the page stand still
+    bool m_bStepped = false;                ///< the button that is held has stepped already
 };

@@ -1,0 +1,34 @@
+#include "ComponentAccess.h"
+
+#include "components/text/ZELLabel.h"
+#include "events/EventNumbers.h"
+#include "events/ZELEvent.h"
+#include "resource/ZELResourceMgr.h"
+
+using PANFx::Components::ZELComponent;
+using PANFx::Components::ZELLabel;
+using PANFx::Resource::ZELResourceMgr;
+
+std::string senderID(QEvent* pEvent)
+{
+    const ZELEvent* pReport = ZELEvent::from(pEvent);
+    return pReport != nullptr ? pReport->m_strID : "";
+}
+
+std::string touchedID(QEvent* pEvent)
+{
+    return pEvent->type() == EVENT_MOUSE_UP ? senderID(pEvent) : "";
+}
+
+std::string localText(const std::string& strKey)
+{
+    return ZELResourceMgr::getInstance()->getLocaleString(strKey);
+}
+
+void showText(ZELComponent* pLabel, const std::string& strText)
+{
+    if (auto* pText = componentAs<ZELLabel>(pLabel, "ZELLabel")) {
+        pText->setTitle(strText);
+        pText->update();
+    }
+}

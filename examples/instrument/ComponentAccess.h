@@ -1,0 +1,30 @@
+#pragma once
+
+#include "components/ZELComponent.h"
+
+#include <QEvent>
+
+#include <string>
+
+/// What pages and dialogs of this instrument do alike with their components.
+
+/// The component as one of the class T, or null if there is none or it is of another type.
+template <class T>
+T* componentAs(PANFx::Components::ZELComponent* pComponent, const char* pszType)
+{
+    const bool bFits = pComponent != nullptr && pComponent->m_strType == pszType;
+    return bFits ? static_cast<T*>(pComponent) : nullptr;
+}
+
+/// The id of the component that reports with this event, or "".
+std::string senderID(QEvent* pEvent);
+
+/// The id of the component that was touched and let go, or "" for any other event. The buttons of
+/// a radio group come without an id.
+std::string touchedID(QEvent* pEvent);
+
+/// A text of the string table, in the language of the day; the key begins with "@".
+std::string localText(const std::string& strKey);
+
+/// Gives a label another text. Null, or anything but a label, is left alone.
+void showText(PANFx::Components::ZELComponent* pLabel, const std::string& strText);

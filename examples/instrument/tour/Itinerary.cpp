@@ -1,0 +1,200 @@
+#include "tour/Itinerary.h"
+
+#include "InstrumentFrame.h"
+#include "tour/Screen.h"
+
+#include <utility>
+
+namespace {
+
+const int firstTick = 1200; // milliseconds; a button that is held ticks after 1000
+
+} // namespace
+
+Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen)
+    : m_frame(frame)
+    , m_screen(screen)
+{
+}
+
+TourStep& Itinerary::add(const std::string& strName, const std::string& strPage, Actions actions)
+{
+    TourStep step;
+    step.strName = strName;
+    step.actions = std::move(actions);
+    step.strPage = strPage;
+    step.strLocale = m_strLocale;
+    m_steps.push_back(std::move(step));
+    return m_steps.back();
+}
+
+void Itinerary::claim(TourStep& step, const std::string& strClaim, std::function<bool()> isTrue)
+{
+    step.strClaim = strClaim;
+    step.isTrue = std::move(isTrue);
+}
+
+Itinerary::Action Itinerary::tap(const std::string& strID)
+{
+    return {[this, strID] { m_screen.tap(strID); }, 0};
+}
+
+Itinerary::Action Itinerary::press(const std::string& strID, int nTime)
+{
+    return {[this, strID] { m_screen.press(strID); }, nTime};
+}
+
+Itinerary::Action Itinerary::release()
+{
+    return {[this] { m_screen.release(); }, 0};
+}
+
+Itinerary::Action Itinerary::tick(const std::string& strID, int nTicks)
+{
+    return {[this, strID, nTicks] { m_screen.tick(strID, nTicks); }, 0};
+}
+
+Itinerary::Action Itinerary::goHome()
+{
+    return {[this] {
+                if (m_screen.page() != "home")
+                    m_screen.tap("back");
+            },
+            0};
+}
+
+Analyser& Itinerary::analyser()
+{
+    return m_frame.analyser();
+}
+
+void Itinerary::firstLook()
+{
+    add("home", "home", {{[this] { m_frame.moveTo("home", true, true); }, 0}});
+    add("home-pressed", "home", {press("measure")});
+    add("measure", "measure", {release()});
+    add("conductivity", "measure", {tap("cond")});
+}
+
+void Itinerary::limit()
+{
+    const auto ph = [this]() -> const Analyser::Channel& { return analyser().channels()[0]; };
+    const double dStart = ph().dLimit;
+    claim(add("limit-held", "measure", {tap("ph"), press("limit_minus", firstTick)}),
+          "the limit goes down", [ph, dStart] { return ph().dLimit < dStart; });
+    claim(add("limit-fast", "measure", {tick("limit_minus", 9)}), "the reading is above it",
+          [ph] { return ph().isAboveLimit(); });
+    claim(add("limit-released", "measure", {release()}), "the limit stays",
+          [ph, dStart] { return ph().dLimit < dStart && ph().isAboveLimit(); });
+}
+
+void Itinerary::results()
+{
+    claim(add("results", "results", {goHome(), tap("results"), tap("print")}),
+          "only what works is enabled",
+          [this] { return !m_screen.isEnabled("print") && m_screen.isEnabled("clear"); });
+    claim(add("oldest-first", "results", {tap("head.time")}), "the order is turned round",
+          [this] { return m_frame.settings().bOldestFirst; });
+    claim(add("fahrenheit", "results", {tap("head.temp")}), "the unit is changed",
+          [this] { return analyser().isFahrenheit(); });
+    add("question", "results", {tap("head.time"), tap("head.temp"), tap("clear")}).strDialog =
+        "question";
+    add("question-pressed", "results", {press("no")}).strDialog = "question";
+    claim(add("question-no", "results", {release()}), "the results are still there",
+          [this] { return !analyser().records().empty(); });
+}
+
+void Itinerary::settings()
+{
+    add("settings", "settings", {goHome(), tap("settings")});
+    claim(add("checks", "settings", {tap("touch_sound"), tap("auto_hold")}),
+          "the sound is off and auto-hold on",
+          [this] { return !m_frame.settings().bTouchSound && m_frame.settings().bAutoHold; });
+    claim(add("paused", "settings", {tap("alarm"), tap("stirrer"), tap("speed/fast")}),
+          "the speed cannot be chosen", [this] {
+              return m_frame.settings().bAlarmMuted && m_frame.settings().bStirrerPaused &&
+                     m_frame.settings().strStirrerSpeed == "medium";
+          });
+    claim(add("fast", "settings", {tap("alarm"), tap("stirrer"), tap("speed/fast")}),
+          "the stirrer runs fast", [this] {
+              return !m_frame.settings().bStirrerPaused &&
+                     m_frame.settings().strStirrerSpeed == "fast";
+          });
+}
+
+void Itinerary::calibration()
+{
+    const std::string strBefore = analyser().calibrationDate();
+    add("calibration", "settings", {tap("calibrate"), tick("", 9)}).strDialog = "calibration";
+    claim(add("calibration-cancelled", "settings", {tap("cancel")}), "the date is the old one",
+          [this, strBefore] { return analyser().calibrationDate() == strBefore; });
+    claim(add("calibrated", "settings", {tap("calibrate"), tick("", 24)}), "the date is a new one",
+          [this, strBefore] { return analyser().calibrationDate() != strBefore; });
+}
+
+void Itinerary::saving()
+{
+    const std::string strLast = analyser().records().front().strSample;
+    claim(add("saved", "measure", {goHome(), tap("measure"), tap("temp"), tap("save")}),
+          "the readings are stored and held", [this, strLast] {
+              return analyser().records().front().strSample != strLast &&
+                     !m_screen.isEnabled("save");
+          });
+    add("back", "home", {tap("back")});
+}
+
+void Itinerary::addLanguage(const std::string& strName, const std::string& strLocale)
+{
+    m_strLocale = strLocale;
+    const std::string strButton = "lang_" + (strLocale.empty() ? "en" : strLocale);
+    add(strName, "home", {goHome(), tap("language"), tap(strButton)});
+}
+
+void Itinerary::korean()
+{
+    add("language", "language", {goHome(), tap("language")});
+    add("language-pressed", "language", {press("lang_kr")});
+    m_strLocale = "kr";
+    add("korean", "home", {release()});
+    add("korean-measure", "measure", {tap("measure")});
+    add("korean-results", "results", {goHome(), tap("results")});
+    add("korean-question", "results", {tap("clear")}).strDialog = "question";
+    add("korean-settings", "settings", {tap("no"), goHome(), tap("settings")});
+    add("korean-calibration", "settings", {tap("calibrate"), tick("", 9)}).strDialog =
+        "calibration";
+    add("korean-language", "language", {tap("cancel"), goHome(), tap("language")});
+}
+
+void Itinerary::otherLanguages()
+{
+    const char* others[][2] = {{"german", "ger"},  {"french", "fra"},     {"spanish", "esp"},
+                               {"italian", "ita"}, {"portuguese", "por"}, {"polish", "pol"},
+                               {"russian", "rus"}, {"chinese", "chn"}};
+    for (const auto& [pszName, pszLocale] : others) {
+        addLanguage(pszName, pszLocale);
+        add(std::string(pszName) + "-settings", "settings", {tap("settings")});
+    }
+    addLanguage("english", "");
+}
+
+void Itinerary::clearing()
+{
+    claim(add("cleared", "results", {tap("results"), tap("clear"), tap("yes")}),
+          "nothing is left to clear",
+          [this] { return analyser().records().empty() && !m_screen.isEnabled("clear"); });
+    add("end", "home", {tap("back")});
+}
+
+std::vector<TourStep> Itinerary::steps()
+{
+    firstLook();
+    limit();
+    results();
+    settings();
+    calibration();
+    saving();
+    korean();
+    otherLanguages();
+    clearing();
+    return m_steps;
+}

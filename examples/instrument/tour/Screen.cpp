@@ -1,0 +1,125 @@
+#include "tour/Screen.h"
+
+#include "InstrumentFrame.h"
+
+#include "components/ZELComponent.h"
+#include "events/Timer.h"
+#include "windows/ZELChildWindow.h"
+#include "windows/ZELPopupWindow.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTimerEvent>
+
+using PANFx::Components::Timer;
+using PANFx::Components::ZELComponent;
+using PANFx::Windows::ZELChildWindow;
+using PANFx::Windows::ZELPopupWindow;
+
+Screen::Screen(InstrumentFrame& frame)
+    : m_frame(frame)
+{
+}
+
+std::string Screen::page()
+{
+    ZELChildWindow* pPage = m_frame.getCurrentWindow();
+    return pPage != nullptr ? pPage->m_strID : "none";
+}
+
+std::string Screen::dialog()
+{
+    ZELPopupWindow* pDialog = findDialog();
+    return pDialog != nullptr ? pDialog->m_strID : "";
+}
+
+ZELPopupWindow* Screen::findDialog()
+{
+    for (QWidget* pWindow : QApplication::topLevelWidgets()) {
+        auto* pDialog = dynamic_cast<ZELPopupWindow*>(pWindow);
+        if (pDialog != nullptr && pDialog->isVisible())
+            return pDialog;
+    }
+    return nullptr;
+}
+
+QImage Screen::picture()
+{
+    QWidget* pTop = findDialog();
+    if (pTop == nullptr)
+        pTop = &m_frame;
+    return pTop->grab().toImage();
+}
+
+ZELComponent* Screen::find(const std::string& strID)
+{
+    const std::size_t nSlash = strID.find('/');
+    const std::string strOuter = strID.substr(0, nSlash);
+    ZELPopupWindow* pDialog = findDialog();
+    ZELChildWindow* pPage = m_frame.getCurrentWindow();
+    ZELComponent* pComponent = pDialog != nullptr ? pDialog->getSubComponent(strOuter)
+                               : pPage != nullptr ? pPage->getSubComponent(strOuter)
+                                                  : nullptr;
+    if (pComponent != nullptr && nSlash != std::string::npos)
+        pComponent = pComponent->getSubComponent(strID.substr(nSlash + 1));
+    if (pComponent == nullptr && m_strMissing.empty())
+        m_strMissing = strID;
+    return pComponent;
+}
+
+void Screen::press(const std::string& strID)
+{
+    ZELComponent* pComponent = find(strID);
+    if (pComponent == nullptr)
+        return;
+    QWidget* pWidget = pComponent->getQWidget();
+    m_window = pWidget->window()->windowHandle();
+    m_finger = pWidget->mapTo(pWidget->window(), pWidget->rect().center());
+    send(QEvent::MouseButtonPress);
+}
+
+void Screen::release()
+{
+    send(QEvent::MouseButtonRelease);
+    m_window.clear();
+}
+
+void Screen::send(QEvent::Type type)
+{
+    if (m_window.isNull())
+        return;
+    const Qt::MouseButtons down = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, m_finger, m_window->mapToGlobal(m_finger), Qt::LeftButton, down,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window, &event);
+}
+
+void Screen::tap(const std::string& strID)
+{
+    press(strID);
+    release();
+}
+
+void Screen::tick(const std::string& strID, int nTicks)
+{
+    QWidget* pOwner = findDialog();
+    if (!strID.empty()) {
+        ZELComponent* pComponent = find(strID);
+        pOwner = pComponent != nullptr ? pComponent->getQWidget() : nullptr;
+    }
+    if (pOwner == nullptr)
+        return;
+    for (QObject* pChild : pOwner->children()) {
+        auto* pTimer = dynamic_cast<Timer*>(pChild);
+        for (int n = 0; pTimer != nullptr && n < nTicks; ++n) {
+            QTimerEvent event(pTimer->timerId());
+            QCoreApplication::sendEvent(pTimer, &event);
+        }
+    }
+}
+
+bool Screen::isEnabled(const std::string& strID)
+{
+    ZELComponent* pComponent = find(strID);
+    return pComponent != nullptr && pComponent->getQWidget()->isEnabled();
+}

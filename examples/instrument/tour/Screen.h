@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QPointer>
+#include <QWindow>
+
+#include <string>
+
+class InstrumentFrame;
+
+namespace PANFx::Components {
+class ZELComponent;
+}
+
+namespace PANFx::Windows {
+class ZELPopupWindow;
+}
+
+/// The panel as a user has it: what is on it can be looked at and touched. Touches go to a place
+/// of the window, and it is Qt that finds what lies there.
+class Screen
+{
+public:
+    explicit Screen(InstrumentFrame& frame);
+
+    /// Id of the page, or "none".
+    std::string page();
+
+    /// Id of the dialog that lies over the page, or "".
+    std::string dialog();
+
+    QImage picture();
+
+    /// Puts the finger on the middle of a component of the dialog, or else of the page; one inside
+    /// of a group is called "group/component".
+    void press(const std::string& strID);
+    void release();
+    void tap(const std::string& strID);
+
+    /// Turns the clock of a component, or of the dialog for "", on by so many ticks. They go the
+    /// way of a real one: through its timer, which posts them.
+    void tick(const std::string& strID, int nTicks);
+
+    /// Whether a component takes touches.
+    bool isEnabled(const std::string& strID);
+
+    /// Id of the first component that was asked for and not there, or "".
+    const std::string& missing() const { return m_strMissing; }
+    void forgetMissing() { m_strMissing.clear(); }
+
+private:
+    PANFx::Windows::ZELPopupWindow* findDialog();
+    PANFx::Components::ZELComponent* find(const std::string& strID);
+    void send(QEvent::Type type);
+
+    InstrumentFrame& m_frame;
+    QPointer<QWindow> m_window; ///< under the finger
+    QPoint m_finger;
+    std::string m_strMissing;
+};
