@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPalette>
 #include <QPixmap>
 #include <QScreen>
@@ -63,6 +64,31 @@ void WidgetCandidate::activate()
 {
     m_pWindow->activateWindow();
     settle();
+}
+
+void sendMouse(QObject* receiver, QEvent::Type type, const QPoint& local, const QPoint& global,
+               Qt::MouseButtons buttons)
+{
+    QMouseEvent event(type, QPointF(local), QPointF(global), Qt::LeftButton, buttons,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(receiver, &event);
+}
+
+void WidgetCandidate::press(const QPoint& place)
+{
+    m_pPressed = m_pWindow->childAt(place);
+    touch(QEvent::MouseButtonPress, place, Qt::LeftButton);
+}
+
+void WidgetCandidate::release(const QPoint& place)
+{
+    touch(QEvent::MouseButtonRelease, place, Qt::NoButton);
+}
+
+void WidgetCandidate::touch(QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons)
+{
+    sendMouse(m_pPressed, type, m_pPressed->mapFrom(m_pWindow, place), m_pWindow->pos() + place,
+              buttons);
 }
 
 QWindow* WidgetCandidate::window()

@@ -2,6 +2,7 @@
 
 #include "PageGenerator.h"
 
+#include <QEvent>
 #include <QImage>
 #include <QObject>
 
@@ -45,6 +46,10 @@ public:
     /** Shows the page that keep() has left hidden and hides the other one. */
     virtual void switchPage() = 0;
 
+    /** A press on the widget at that place, handed to it as the application object does. */
+    virtual void press(const QPoint& place) = 0;
+    virtual void release(const QPoint& place) = 0;
+
     /** Starts to watch for a paint of the window. */
     void expectPaint() { m_painted = false; }
 
@@ -53,6 +58,9 @@ public:
 
     /** The pixels that the last flush of the window has sent out, not a new rendering of them. */
     QImage picture();
+
+    /** Called when the click of a button has reached its handler, where a candidate has one. */
+    std::function<void()> onClick;
 
 protected:
     virtual QWindow* window() = 0;
@@ -68,6 +76,8 @@ class WidgetCandidate : public Candidate
 {
 public:
     void activate() override;
+    void press(const QPoint& place) override;
+    void release(const QPoint& place) override;
 
 protected:
     QWindow* window() override;
@@ -89,9 +99,16 @@ private:
         bool& m_painted;
     };
 
+    void touch(QEvent::Type type, const QPoint& place, Qt::MouseButtons buttons);
+
     QWidget* m_pWindow = nullptr;
+    QWidget* m_pPressed = nullptr;
     PaintWatcher m_watcher{m_painted};
 };
+
+/** Sends a mouse event of the left button to @p receiver, which may be a widget or a window. */
+void sendMouse(QObject* receiver, QEvent::Type type, const QPoint& local, const QPoint& global,
+               Qt::MouseButtons buttons);
 
 /** A black top-level window of the panel's size. */
 std::unique_ptr<QWidget> makeWindow();
@@ -101,6 +118,8 @@ std::unique_ptr<QWidget> makeWindow();
 enum class QmlState { InMemory, DiskCache, Text };
 
 std::unique_ptr<Candidate> makeCode(const Site& site);
+/** As makeCode(), with buttons that derive from QAbstractButton. */
+std::unique_ptr<Candidate> makeCodeWithQtButtons(const Site& site);
 std::unique_ptr<Candidate> makeOurs(const Site& site);
 std::unique_ptr<Candidate> makeQUiLoader(const Site& site, bool customClasses);
 std::unique_ptr<Candidate> makeQml(const Site& site, QmlState state);

@@ -15,23 +15,33 @@ double Samples::median() const
     return sorted.size() % 2 == 1 ? sorted[middle] : (sorted[middle - 1] + sorted[middle]) / 2;
 }
 
-void alternate(std::vector<Course>& courses, int rounds, int warmUps)
+namespace {
+
+void takeTurn(Course& course, const Plan& plan)
+{
+    for (int run = 0; run < plan.uncounted + plan.counted; ++run) {
+        Watch watch;
+        course.run(watch);
+        if (run < plan.uncounted)
+            continue;
+        course.laps.resize(watch.laps().size());
+        for (std::size_t lap = 0; lap < watch.laps().size(); ++lap)
+            course.laps[lap].add(watch.laps()[lap]);
+    }
+}
+
+} // namespace
+
+void alternate(std::vector<Course>& courses, const Plan& plan)
 {
     std::vector<Course*> order;
     for (Course& course : courses)
         order.push_back(&course);
     std::mt19937 random(1); // the same orders in every run
-    for (int round = 0; round < warmUps + rounds; ++round) {
+    for (int turn = 0; turn < plan.turns; ++turn) {
         std::shuffle(order.begin(), order.end(), random);
-        for (Course* course : order) {
-            Watch watch;
-            course->run(watch);
-            if (round < warmUps)
-                continue;
-            course->laps.resize(watch.laps().size());
-            for (std::size_t lap = 0; lap < watch.laps().size(); ++lap)
-                course->laps[lap].add(watch.laps()[lap]);
-        }
+        for (Course* course : order)
+            takeTurn(*course, plan);
     }
 }
 

@@ -43,7 +43,7 @@ private:
     std::vector<double> m_laps;
 };
 
-/** What one candidate does in one round. Only the time between the watch's calls counts. */
+/** What one candidate does in one run. Only the time between the watch's calls counts. */
 struct Course
 {
     std::string name;
@@ -52,13 +52,19 @@ struct Course
 };
 
 /**
- * Runs all courses once per round, in an order drawn anew for each round, so that no candidate
- * always follows the same neighbour. The first @p warmUps rounds are not counted.
+ * How candidates take turns. In each turn a candidate runs some times uncounted before it counts:
+ * so it finds caches and branch predictors as it has left them itself. Without that, candidates
+ * that share code or pictures would warm each other, and the one that shares least would lose.
  */
-void alternate(std::vector<Course>& courses, int rounds, int warmUps);
+struct Plan
+{
+    int turns;
+    int uncounted = 4;
+    int counted = 4;
+};
 
-/** Ratio rows are medians of at least this many rounds, in a quick run too. */
-constexpr int fewestRounds = 31;
+/** Lets all courses take turns, in an order drawn anew for each round of turns. */
+void alternate(std::vector<Course>& courses, const Plan& plan);
 
 /** Nanoseconds per call: the median over @p rounds batches of @p batch calls. */
 double nanosecondsPerCall(const std::function<void()>& call, int batch, int rounds);

@@ -67,7 +67,7 @@ LogSink::LogSink()
     else if (listen())
         m_description = "a socket of the benchmark listens at /dev/log and drops the lines";
     else
-        m_description = "nothing listens at /dev/log, so lines end at a failed connect";
+        m_description = "nothing listens at /dev/log, so lines go to the console or get lost";
 }
 
 LogSink::~LogSink()

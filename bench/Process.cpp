@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
+#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <linux/filter.h>
@@ -77,6 +78,22 @@ ChildResult runChild(const std::vector<std::string>& command)
     }
     result.bGood = WIFEXITED(status) && WEXITSTATUS(status) == 0 && !result.output.empty();
     return result;
+}
+
+EnvironmentVariable::EnvironmentVariable(const char* name, const std::string& value)
+    : m_name(name)
+{
+    if (const char* before = getenv(name))
+        m_before = before;
+    setenv(name, value.c_str(), 1);
+}
+
+EnvironmentVariable::~EnvironmentVariable()
+{
+    if (m_before)
+        setenv(m_name, m_before->c_str(), 1);
+    else
+        unsetenv(m_name);
 }
 
 std::string ownPath()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,21 @@ struct ChildResult
 
 /** Runs @p command to its end. */
 ChildResult runChild(const std::vector<std::string>& command);
+
+/** An environment variable that has another value for as long as the object lives. */
+class EnvironmentVariable
+{
+public:
+    EnvironmentVariable(const char* name, const std::string& value);
+    ~EnvironmentVariable();
+
+    EnvironmentVariable(const EnvironmentVariable&) = delete;
+    EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
+
+private:
+    const char* m_name;
+    std::optional<std::string> m_before;
+};
 
 /** Path of the running program. */
 std::string ownPath();

@@ -21,20 +21,24 @@ struct Run
 // Each measures one group and writes its rows.
 void measurePageLoads(Run& run);
 void measurePageSwitch(Run& run);
+void measureTouch(Run& run);
 void measureImageHit(Run& run);
 void measureStringTable(Run& run);
 void measureLogLine(Run& run);
 void measureMemory(Run& run);
 void measureStart(Run& run);
 
-// The work of child processes, each in a process that has not freed big pages before. Each
-// writes one number to the standard output: bytes.
+// The work of child processes. What measures memory needs a process that has not freed big pages
+// before, and writes one number to the standard output: bytes.
 
 /** Growth per page of a candidate that is built, shown, painted and deleted. */
 void childPageCycles(const Site& site, const std::string& candidate);
 
 /** Growth per change of language; @p styles is the number of styles in the style file. */
 void childLocaleCycles(const Site& site, int styles);
+
+/** Touches the buttons of a common page; writes a line "key click repaint" for each candidate. */
+void childTouch(const Site& site, int turns);
 
 /** Heap of one page of a candidate, built, shown and painted. */
 void childHeap(const Site& site, const std::string& candidate, const std::string& page);

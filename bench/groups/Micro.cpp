@@ -135,7 +135,7 @@ void measureStringTable(Run& run)
                            manager.changeLocale(columns[turn++ % 2].first);
                            watch.lap();
                        }});
-    alternate(courses, run.bQuick ? fewestRounds : 101, 3);
+    alternate(courses, run.bQuick ? Plan{8} : Plan{31});
     run.table.group("Loading one language of a string table of 10 languages by 1,000 keys");
     const double floor = courses[0].laps[0].median();
     for (const Course& course : courses)

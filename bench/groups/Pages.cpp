@@ -30,13 +30,13 @@ Course loadCourse(const std::string& name, Candidate& candidate, const std::stri
 }
 
 void measureLoads(Run& run, Lineup& lineup, const std::string& page, const std::string& title,
-                  int rounds, Goal painted)
+                  const Plan& plan, Goal painted)
 {
     lineup.comparePictures(run.table, page, run.pictures);
     std::vector<Course> courses;
     for (Lineup::Entry& entry : lineup.entries())
         courses.push_back(loadCourse(entry.name, *entry.pCandidate, page));
-    alternate(courses, rounds, 5);
+    alternate(courses, plan);
     run.table.group(title + ", live: opened, parsed, built, shown");
     ratioRows(run.table, courses, 0, liveGoal);
     run.table.group(title + ", painted: live and the first paint");
@@ -51,7 +51,7 @@ void measureGrowth(Run& run, Lineup& lineup, const std::string& small, const std
         courses.push_back(loadCourse(key, candidate, small));
         courses.push_back(loadCourse(key, candidate, large));
     }
-    alternate(courses, run.bQuick ? fewestRounds : 101, 3);
+    alternate(courses, run.bQuick ? Plan{3} : Plan{16});
     const auto growth = [&courses](std::size_t first) {
         return courses[first + 1].laps[0].median() / courses[first].laps[0].median();
     };
@@ -83,7 +83,7 @@ void measureSwitch(Run& run, const std::string& title, const std::string& first,
         settle();
         courses.push_back(switchCourse(entry.name, *entry.pCandidate));
     }
-    alternate(courses, run.bQuick ? fewestRounds : 401, 6);
+    alternate(courses, run.bQuick ? Plan{5} : Plan{51});
     run.table.group(title);
     ratioRows(run.table, courses, 0, switchGoal);
 }
@@ -99,21 +99,21 @@ bool libraryHasButtons()
 
 void measurePageLoads(Run& run)
 {
-    const int rounds = run.bQuick ? fewestRounds : 301;
-    const int largeRounds = run.bQuick ? fewestRounds : 61;
+    const Plan plan = run.bQuick ? Plan{4} : Plan{51};
+    const Plan largePlan = run.bQuick ? Plan{2, 1, 2} : Plan{16, 2, 4};
     Lineup lineup(run.site);
-    measureLoads(run, lineup, pictures60, "Page load, 60 image boxes", rounds, paintedGoal);
-    measureLoads(run, lineup, pictures600, "Page load, 600 image boxes", largeRounds, {});
+    measureLoads(run, lineup, pictures60, "Page load, 60 image boxes", plan, paintedGoal);
+    measureLoads(run, lineup, pictures600, "Page load, 600 image boxes", largePlan, {});
     measureGrowth(run, lineup, pictures60, pictures600);
     if (!libraryHasButtons()) {
         run.table.group("Page load, 24 buttons, 24 labels, 12 image boxes");
         run.table.note("not measured: the library makes no buttons");
         return;
     }
-    measureLoads(run, lineup, common60, "Page load, 24 buttons, 24 labels, 12 image boxes", rounds,
+    measureLoads(run, lineup, common60, "Page load, 24 buttons, 24 labels, 12 image boxes", plan,
                  paintedGoal);
     measureLoads(run, lineup, common600, "Page load, 240 buttons, 240 labels, 120 image boxes",
-                 largeRounds, {});
+                 largePlan, {});
     measureGrowth(run, lineup, common60, common600);
 }
 

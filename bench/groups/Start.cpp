@@ -29,7 +29,7 @@ void startRows(Run& run, const std::string& title, const std::string& page)
     std::vector<Course> courses;
     for (const char* key : started)
         courses.push_back(startCourse(run, key, page));
-    alternate(courses, run.bQuick ? fewestRounds : 101, 2);
+    alternate(courses, run.bQuick ? Plan{9, 0, 1} : Plan{101, 0, 1});
     run.table.group(title);
     ratioRows(run.table, courses, 0, startGoal);
 }

@@ -24,8 +24,9 @@ QRect placeOf(const pugi::xml_node& node)
 class Code : public WidgetCandidate
 {
 public:
-    explicit Code(const Site& site)
+    Code(const Site& site, bool qtButtons)
         : m_site(site)
+        , m_bQtButtons(qtButtons)
     {
     }
 
@@ -94,12 +95,28 @@ private:
             pLabel->m_text = QString::fromUtf8(node.attribute("title").value());
             pLabel->setGeometry(placeOf(node.child("position")));
         } else {
-            auto* pButton = new ButtonWidget(pPage);
-            pButton->m_pUp = picture(node.child("image").attribute("up"));
-            pButton->m_pDown = picture(node.child("image").attribute("down"));
-            pButton->m_title = QString::fromUtf8(node.attribute("title").value());
-            pButton->setGeometry(placeOf(node.child("position")));
+            buildButton(pPage, node);
         }
+    }
+
+    template <typename Button>
+    void fillButton(Button& button, const pugi::xml_node& node)
+    {
+        button.m_pUp = picture(node.child("image").attribute("up"));
+        button.m_pDown = picture(node.child("image").attribute("down"));
+        button.m_title = QString::fromUtf8(node.attribute("title").value());
+        button.setGeometry(placeOf(node.child("position")));
+    }
+
+    void buildButton(QWidget* pPage, const pugi::xml_node& node)
+    {
+        if (!m_bQtButtons) {
+            fillButton(*new ButtonWidget(pPage), node);
+            return;
+        }
+        auto* pButton = new QtButtonWidget(pPage);
+        fillButton(*pButton, node);
+        QObject::connect(pButton, &QAbstractButton::clicked, pPage, [this] { onClick(); });
     }
 
     const QPixmap* picture(const pugi::xml_attribute& file)
@@ -108,6 +125,7 @@ private:
     }
 
     const Site& m_site;
+    bool m_bQtButtons;
     PictureCache m_pictures;
     std::unique_ptr<QWidget> m_pWindow = makeWindow();
     QWidget* m_pPage = nullptr;
@@ -118,7 +136,12 @@ private:
 
 std::unique_ptr<Candidate> makeCode(const Site& site)
 {
-    return std::make_unique<Code>(site);
+    return std::make_unique<Code>(site, false);
+}
+
+std::unique_ptr<Candidate> makeCodeWithQtButtons(const Site& site)
+{
+    return std::make_unique<Code>(site, true);
 }
 
 } // namespace bench

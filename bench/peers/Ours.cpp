@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    PanelFrame m_frame;
+    PanelFrame m_frame{onClick};
     std::string m_shown;
     std::string m_hidden;
 };

@@ -2,18 +2,46 @@
 
 #include "Candidate.h"
 
+#include "events/EventNumbers.h"
 #include "windows/ZELChildWindow.h"
 #include "windows/ZELMainFrame.h"
 
 namespace bench {
 
+/** An application's page in its smallest form: it gets what its components post. */
+class PanelPage : public PANFx::Windows::ZELChildWindow
+{
+public:
+    PanelPage(std::string strID, QWidget* pParent, const std::function<void()>& onClick)
+        : ZELChildWindow(std::move(strID), pParent, std::string())
+        , m_onClick(onClick)
+    {
+    }
+
+    bool event(QEvent* pEvent) override
+    {
+        if (pEvent->type() == EVENT_MOUSE_UP && m_onClick)
+            m_onClick();
+        return ZELChildWindow::event(pEvent);
+    }
+
+private:
+    const std::function<void()>& m_onClick;
+};
+
 /** An application's frame in its smallest form: each id is a page of that name. */
 class PanelFrame : public PANFx::Windows::ZELMainFrame
 {
 public:
+    /** @param onClick is called when a page gets a click; it must outlive the frame */
+    explicit PanelFrame(const std::function<void()>& onClick)
+        : m_onClick(onClick)
+    {
+    }
+
     PANFx::Windows::ZELChildWindow* createChildWindow(std::string strID) override
     {
-        return new PANFx::Windows::ZELChildWindow(strID, this, std::string());
+        return new PanelPage(std::move(strID), this, m_onClick);
     }
 
     /**
@@ -37,6 +65,9 @@ public:
         delete pSpared;
         settle();
     }
+
+private:
+    const std::function<void()>& m_onClick;
 };
 
 } // namespace bench

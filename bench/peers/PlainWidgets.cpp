@@ -20,6 +20,19 @@ const QFont& bodyFont()
     return font;
 }
 
+namespace {
+
+void paintButton(QWidget& widget, const QPixmap& picture, const QString& title)
+{
+    QPainter painter(&widget);
+    painter.drawPixmap(widget.rect(), picture);
+    painter.setFont(bodyFont());
+    painter.setPen(Qt::white);
+    painter.drawText(widget.rect(), Qt::AlignCenter, title);
+}
+
+} // namespace
+
 void PictureWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -36,11 +49,7 @@ void TextWidget::paintEvent(QPaintEvent*)
 
 void ButtonWidget::paintEvent(QPaintEvent*)
 {
-    QPainter painter(this);
-    painter.drawPixmap(rect(), m_bPressed ? *m_pDown : *m_pUp);
-    painter.setFont(bodyFont());
-    painter.setPen(Qt::white);
-    painter.drawText(rect(), Qt::AlignCenter, m_title);
+    paintButton(*this, m_bPressed ? *m_pDown : *m_pUp, m_title);
 }
 
 void ButtonWidget::mousePressEvent(QMouseEvent*)
@@ -53,6 +62,11 @@ void ButtonWidget::mouseReleaseEvent(QMouseEvent*)
 {
     m_bPressed = false;
     update();
+}
+
+void QtButtonWidget::paintEvent(QPaintEvent*)
+{
+    paintButton(*this, isDown() ? *m_pDown : *m_pUp, m_title);
 }
 
 } // namespace bench

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QFont>
 #include <QPixmap>
 #include <QString>
@@ -64,6 +65,20 @@ protected:
 
 private:
     bool m_bPressed = false;
+};
+
+/** The same button on top of Qt's own base class for buttons. */
+class QtButtonWidget : public QAbstractButton
+{
+public:
+    using QAbstractButton::QAbstractButton;
+
+    const QPixmap* m_pUp = nullptr;
+    const QPixmap* m_pDown = nullptr;
+    QString m_title;
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
 };
 
 } // namespace bench

@@ -82,6 +82,18 @@ public:
         m_pHidden->setVisible(false);
     }
 
+    void press(const QPoint& place) override
+    {
+        sendMouse(&m_window, QEvent::MouseButtonPress, place, m_window.position() + place,
+                  Qt::LeftButton);
+    }
+
+    void release(const QPoint& place) override
+    {
+        sendMouse(&m_window, QEvent::MouseButtonRelease, place, m_window.position() + place,
+                  Qt::NoButton);
+    }
+
 protected:
     QWindow* window() override { return &m_window; }
 
