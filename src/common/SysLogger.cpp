@@ -2,8 +2,8 @@
 
 #include <cstdarg>
 #include <cstdio>
-#include <cstring>
 #include <pthread.h>
+#include <string_view>
 #include <syslog.h>
 
 namespace PANFx::Common {
@@ -15,20 +15,20 @@ constexpr size_t lineLimit = 4096;     // with the terminating NUL
 constexpr size_t classWidth = 15;      // shorter class names are padded to this
 
 // Hundreds of loggers are made for one page, so this does by hand what "%s %-15s" would do.
-std::string identityOf(const char* program, size_t programSize, const char* name, size_t nameSize)
+std::string identityOf(std::string_view program, std::string_view name, std::string_view thread)
 {
-    const size_t padding = nameSize < classWidth ? classWidth - nameSize : 0;
-    std::string identity;
-    identity.reserve(programSize + 1 + nameSize + padding);
-    identity.append(program, programSize).append(1, ' ');
-    identity.append(name, nameSize).append(padding, ' ');
-    return identity;
-}
-
-void cutIdentity(std::string& identity)
-{
-    if (identity.size() >= identityLimit)
-        identity.resize(identityLimit - 1);
+    char identity[identityLimit - 1];
+    size_t size = 0;
+    const auto append = [&](std::string_view text) {
+        size += text.copy(identity + size, sizeof identity - size);
+    };
+    append(program);
+    append(" ");
+    append(name);
+    if (name.size() < classWidth)
+        append(std::string_view("               ", classWidth - name.size()));
+    append(thread);
+    return {identity, size};
 }
 
 __attribute__((format(printf, 4, 0))) void writeLine(const std::string& identity, int priority,
@@ -55,25 +55,19 @@ SysLogger::SysLogger()
 }
 
 SysLogger::SysLogger(const char* strProgram, const char* strClass)
-    : m_strIdentity(
-          identityOf(strProgram, std::strlen(strProgram), strClass, std::strlen(strClass)))
+    : m_strIdentity(identityOf(strProgram, strClass, {}))
 {
-    cutIdentity(m_strIdentity);
 }
 
 SysLogger::~SysLogger() = default;
 
 void SysLogger::SetIdentity(std::string strProgram, std::string strClass, bool bThread)
 {
-    // as a printf argument each word would end at its first NUL
-    m_strIdentity = identityOf(strProgram.c_str(), std::strlen(strProgram.c_str()),
-                               strClass.c_str(), std::strlen(strClass.c_str()));
-    if (bThread) {
-        char thread[32];
+    char thread[32] = "";
+    if (bThread)
         snprintf(thread, sizeof thread, " [0x%x]", static_cast<unsigned int>(pthread_self()));
-        m_strIdentity += thread;
-    }
-    cutIdentity(m_strIdentity);
+    // as a printf argument each word would end at its first NUL
+    m_strIdentity = identityOf(strProgram.c_str(), strClass.c_str(), thread);
 }
 
 void SysLogger::WriteError(const char* format, ...)

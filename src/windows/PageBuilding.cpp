@@ -19,7 +19,8 @@ using Resource::ZELResourceMgr;
 
 void setUpScreenWidget(QWidget& widget)
 {
-    widget.setPalette(QPalette(Qt::black));
+    static const QPalette black(Qt::black); // its shades are costly to work out
+    widget.setPalette(black);
     widget.setGeometry(QRect(QPoint(0, 0), QPoint(799, 479)));
 }
 

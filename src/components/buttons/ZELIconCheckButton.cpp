@@ -130,9 +130,9 @@ void ZELIconCheckButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const QPixmap* picture = m_bChecked ? checkedImage() : m_pCurImage;
-    if (m_bChecked || hasPicture(picture))
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
     drawPicture(painter, picture, rect());
+    // the icon is scaled smoothly over a picture only
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, m_bChecked || hasPicture(picture));
 
     const Font* style = m_bChecked && m_pPressFont ? m_pPressFont : m_pFont;
     if (style) {

@@ -314,17 +314,13 @@ void ZELImageButton::animateTo(int nX, int nY, double dAmplitude)
 void ZELImageButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    if (hasPicture(m_pCurImage)) {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        drawPicture(painter, m_pCurImage, rectOrWhole(m_imageRect, *this));
-    }
+    drawPicture(painter, m_pCurImage, rectOrWhole(m_imageRect, *this));
     paintTitle(painter, m_bPressed, m_bElided);
 }
 
 void ZELImageButton::paintCheckable(bool bChecked)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QPixmap* picture = bChecked ? checkedImage() : m_pCurImage;
     drawPicture(painter, picture, rectOrWhole(m_imageRect, *this));
     paintTitle(painter, m_bPressed || bChecked, false);

@@ -93,7 +93,6 @@ void ZELImageBox::paintEvent(QPaintEvent*)
     if (!hasPicture(m_pBGPixmap))
         return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (m_nRotate != 0) {
         const int centreX = width() / 2;
         const int centreY = height() / 2;

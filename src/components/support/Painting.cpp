@@ -32,8 +32,13 @@ QRect rectOrWhole(const QRect& rect, const QWidget& widget)
 
 void drawPicture(QPainter& painter, const QPixmap* pPixmap, const QRect& rect)
 {
-    if (hasPicture(pPixmap))
-        painter.drawPixmap(rect, *pPixmap, QRect());
+    if (!hasPicture(pPixmap))
+        return;
+    // where nothing is scaled or turned, smoothing changes no pixel and takes Qt off its fast path
+    const bool exact = rect.size() == pPixmap->size()
+                       && painter.deviceTransform().type() <= QTransform::TxTranslate;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !exact);
+    painter.drawPixmap(rect, *pPixmap, QRect());
 }
 
 void drawStyledText(QPainter& painter, const QString& strText, const Font& font, const QRect& rect,

@@ -21,7 +21,7 @@ bool isUnset(const QRect& rect);
 /** @p rect, or the rectangle of the whole widget when it is unset. */
 QRect rectOrWhole(const QRect& rect, const QWidget& widget);
 
-/** Draws the whole picture scaled into the rectangle; nothing where there is no picture. */
+/** Draws the whole picture, scaled smoothly into the rectangle; nothing without a picture. */
 void drawPicture(QPainter& painter, const QPixmap* pPixmap, const QRect& rect);
 
 /** Draws a text in the font and the colour of a style. */
