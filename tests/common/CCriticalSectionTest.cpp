@@ -249,7 +249,6 @@ TEST(CCriticalSection, isNotGivenBackForAProcessThatDies)
               }),
               0);
     EXPECT_EQ(valueOf(section.m_nSemID), 1);
-    section.Unlock();
 }
 
 TEST(CCriticalSection, runsUnprotectedWithoutASemaphore)

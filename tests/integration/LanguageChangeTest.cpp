@@ -49,10 +49,12 @@ protected:
         return "<layout><Base><background>bg.png</background></Base><Components>"
                "<label><title title='@home' style='normal'>"
                "<position x='0' y='0' width='200' height='40'/></title></label>"
-               "<imagebox><only_" + (locale.empty() ? "eng" : locale) +
+               "<imagebox><only_" +
+               (locale.empty() ? "eng" : locale) +
                " file='common.png' x='400' y='300' width='20' height='20'/></imagebox>"
-               "<label><" + id + "_touch><position x='600' y='400' width='100' height='50'/></" +
-               id + "_touch></label></Components></layout>";
+               "<label><" +
+               id + "_touch><position x='600' y='400' width='100' height='50'/></" + id +
+               "_touch></label></Components></layout>";
     }
 
     void addPage(const std::string& id)
@@ -122,14 +124,13 @@ TEST_F(LanguageChangeTest, tellsItsStepsInTheirOrder)
     show("settings");
     log().startHere();
     frame().changeLocale("kr", "settings");
-    log().expectInOrder({"[D] [changeLocale] start", "[D] [changeLocale] m_strLocale:kr",
-                         "[D] [changeLocale] strPath = /app/bin/resource/StringTable.Resource",
-                         "[D] [removeAllChildWnd] start",
-                         "[D] [removeAllChildWnd] before delete home Window",
-                         "[D] [removeAllChildWnd] finished window deletion",
-                         "[I] [moveBackEx] home <== settings",
-                         "[D] [loadLayout] path: /app/bin/resource/kr/layout/home.resource",
-                         "[D] [removeAllChildWnd] end", "[D] [changeLocale] end"});
+    log().expectInOrder(
+        {"[D] [changeLocale] start", "[D] [changeLocale] m_strLocale:kr",
+         "[D] [changeLocale] strPath = /app/bin/resource/StringTable.Resource",
+         "[D] [removeAllChildWnd] start", "[D] [removeAllChildWnd] before delete home Window",
+         "[D] [removeAllChildWnd] finished window deletion", "[I] [moveBackEx] home <== settings",
+         "[D] [loadLayout] path: /app/bin/resource/kr/layout/home.resource",
+         "[D] [removeAllChildWnd] end", "[D] [changeLocale] end"});
     const Strings own = log().texts("ZELMainFrame");
     EXPECT_EQ(own.front(), "[D] [changeLocale] start");
     EXPECT_EQ(own.back(), "[D] [changeLocale] end");
@@ -145,7 +146,11 @@ TEST_F(LanguageChangeTest, theNewLanguageIsKnownBeforeAPageGoes)
     class Witness : public QObject
     {
     public:
-        Witness(QObject* parent, std::string& locale) : QObject(parent), m_locale(locale) {}
+        Witness(QObject* parent, std::string& locale)
+            : QObject(parent)
+            , m_locale(locale)
+        {
+        }
         ~Witness() override { m_locale = ZELResourceMgr::getInstance()->m_strLocale; }
 
     private:
@@ -307,8 +312,7 @@ TEST_F(LanguageChangeTest, anyOtherCurrentPageThanTheNamedOneDies)
 {
     show("home");
     const QPointer<QWidget> settings = show("settings");
-    log().expectError("[removeAllChildWnd] deletes the current window settings", 1,
-                      "ZELMainFrame");
+    log().expectError("[removeAllChildWnd] deletes the current window settings", 1, "ZELMainFrame");
     frame().changeLocale("kr", "home");
     EXPECT_TRUE(settings.isNull());
     EXPECT_EQ(frame().getCurrentWindow()->m_strID, "home");

@@ -26,7 +26,7 @@ constexpr int many = 200;
 class PageLifeTest : public PanelTest
 {
 protected:
-    PageLifeTest()
+    void SetUp() override
     {
         for (const char* locale : {"", "kr"}) {
             writePicture("bg.png", 800, 480, Qt::blue, locale);

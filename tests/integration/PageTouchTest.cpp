@@ -40,9 +40,10 @@ protected:
 
     static std::string button(const std::string& id, int x, int y)
     {
-        return "<button><" + id + "><image up='up.png' down='down.png' dim='dim.png'/><position x='" +
-               std::to_string(x) + "' y='" + std::to_string(y) +
-               "' width='100' height='50'/></" + id + "></button>";
+        return "<button><" + id +
+               "><image up='up.png' down='down.png' dim='dim.png'/><position x='" +
+               std::to_string(x) + "' y='" + std::to_string(y) + "' width='100' height='50'/></" +
+               id + "></button>";
     }
 
     void writePage(const std::string& id, const std::string& components,
@@ -50,8 +51,7 @@ protected:
     {
         const std::string base =
             background.empty() ? "" : "<Base><background>" + background + "</background></Base>";
-        writeLayout(id, "<layout>" + base + "<Components>" + components +
-                            "</Components></layout>");
+        writeLayout(id, "<layout>" + base + "<Components>" + components + "</Components></layout>");
     }
 
     /** A page on screen, with the frame's recorder at it. */
@@ -133,8 +133,9 @@ TEST_F(PageTouchTest, thePictureFollowsTheFinger)
 
 TEST_F(PageTouchTest, theBackgroundReportsWhatNothingElseTakes)
 {
-    writePage("home", button("ok", 10, 20) + "<label><l title='x' style='normal'><position x='300'"
-                                             " y='0' width='50' height='20'/></l></label>",
+    writePage("home",
+              button("ok", 10, 20) + "<label><l title='x' style='normal'><position x='300'"
+                                     " y='0' width='50' height='20'/></l></label>",
               "bg.png");
     expectBackgroundLines();
     show("home");
@@ -295,9 +296,10 @@ TEST_F(PageTouchTest, aWorkerThreadReachesThePageByPosting)
 
 TEST_F(PageTouchTest, aFaultyComponentTakesNothingFromItsNeighbours)
 {
-    writePage("home", "<slider><volume/></slider><imagebox><picture/></imagebox>"
-                      "<button><bare/></button>" +
-                          button("ok", 10, 20),
+    writePage("home",
+              "<slider><volume/></slider><imagebox><picture/></imagebox>"
+              "<button><bare/></button>" +
+                  button("ok", 10, 20),
               "missing.png");
     log().expectError("[createBackgroundSubComponent] cannot load image: missing.png");
     log().expectError("[createSubComponent] Fail to create components volume");

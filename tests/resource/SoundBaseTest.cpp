@@ -36,15 +36,15 @@ TEST(SoundBase, isAbstractAndDeletedThroughItsBase)
 TEST(SoundBase, hasItsOperationsInTheirFixedOrder)
 {
     const auto word = static_cast<std::intptr_t>(sizeof(void*));
-    const std::intptr_t slots[] = {
-        slot(&SoundBase::initialize),      slot(&SoundBase::playSound),
-        slot(&SoundBase::playSystemSound), slot(&SoundBase::playTouchSound),
-        slot(&SoundBase::playAlertSound),  slot(&SoundBase::playPopupSound),
+    const std::intptr_t table[] = {
+        slot(&SoundBase::initialize),        slot(&SoundBase::playSound),
+        slot(&SoundBase::playSystemSound),   slot(&SoundBase::playTouchSound),
+        slot(&SoundBase::playAlertSound),    slot(&SoundBase::playPopupSound),
         slot(&SoundBase::playCompleteSound), slot(&SoundBase::playVoiceSound),
         slot(&SoundBase::playWarningSound),
     };
     std::intptr_t place = 2; // a virtual destructor takes two places
-    for (const std::intptr_t found : slots)
+    for (const std::intptr_t found : table)
         EXPECT_EQ(found / word, place++);
 }
 

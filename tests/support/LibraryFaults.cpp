@@ -65,8 +65,7 @@ bool faults_loadXMLFile(XmlDocument* document, const char* path)
 ZELComponent* faults_createComponent(ComponentFactory* factory, QWidget* parent, std::string type,
                                      std::string id, Node* layout)
 {
-    using Create =
-        ZELComponent* (*)(ComponentFactory*, QWidget*, std::string, std::string, Node*);
+    using Create = ZELComponent* (*)(ComponentFactory*, QWidget*, std::string, std::string, Node*);
     if (active && active->onCreate)
         active->onCreate(type, id);
     return next<Create>(CREATE_COMPONENT)(factory, parent, std::move(type), std::move(id), layout);

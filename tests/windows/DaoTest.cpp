@@ -115,8 +115,8 @@ TEST_F(DaoTest, takesTheLockAroundAStatementWithLock)
 {
     fake->m_changed = 3;
     EXPECT_EQ(dao.execDBwithLock("UPDATE users SET name = ''"), 3);
-    EXPECT_EQ(calls(), (Strings{open, "Lock", "Execute UPDATE users SET name = '' 200000",
-                                "UnLock", "Close"}));
+    EXPECT_EQ(calls(), (Strings{open, "Lock", "Execute UPDATE users SET name = '' 200000", "UnLock",
+                                "Close"}));
 }
 
 TEST_F(DaoTest, readsATableIntoTheCallers)
@@ -224,8 +224,7 @@ TEST_F(DaoTest, aFailureAtTheEndCountsAsOneToo)
     fake->m_failAt = "UnLock";
     log().expectError("[execDBwithLock] Exception : no such table: reagents", 1, "Dao");
     EXPECT_EQ(dao.execDBwithLock("x"), 0);
-    EXPECT_EQ(calls(),
-              (Strings{open, "Lock", "Execute x 200000", "UnLock", "UnLock", "Close"}));
+    EXPECT_EQ(calls(), (Strings{open, "Lock", "Execute x 200000", "UnLock", "UnLock", "Close"}));
 }
 
 TEST_F(DaoTest, theLinesCarryTheClassAndTheTextAsItStands)

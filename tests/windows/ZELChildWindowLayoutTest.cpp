@@ -164,7 +164,8 @@ TEST_F(ZELChildWindowLayoutTest, nothingButBlanks)
 
 TEST_F(ZELChildWindowLayoutTest, noXmlAtAll)
 {
-    expectNotWellFormed("\x7f" "ELF\x02\x01\x01 and some more");
+    expectNotWellFormed("\x7f"
+                        "ELF\x02\x01\x01 and some more");
     expectEmpty(show());
 }
 
@@ -231,8 +232,9 @@ TEST_F(ZELChildWindowLayoutTest, noComponentsSection)
     frame().addPage("page", "resource");
     expectBackgroundLines();
     // the line names the id, also where the file has another name
-    log().expectError("[createSubComponent] There is not <Components> tag in the page.resource file",
-                      1, "ZELChildWindow");
+    log().expectError(
+        "[createSubComponent] There is not <Components> tag in the page.resource file", 1,
+        "ZELChildWindow");
     ZELChildWindow* const page = frame().moveTo("page");
     EXPECT_EQ(ids(page), Strings{"background"});
     EXPECT_EQ(Pixels::count(frame().grab().toImage(), Qt::blue), 800 * 480);
@@ -241,8 +243,9 @@ TEST_F(ZELChildWindowLayoutTest, noComponentsSection)
 TEST_F(ZELChildWindowLayoutTest, noComponentsSectionAndNoBackground)
 {
     expectNoBackgroundLines();
-    log().expectError("[createSubComponent] There is not <Components> tag in the page.resource file",
-                      1, "ZELChildWindow");
+    log().expectError(
+        "[createSubComponent] There is not <Components> tag in the page.resource file", 1,
+        "ZELChildWindow");
     EXPECT_TRUE(show("<layout/>")->children().isEmpty());
 }
 
@@ -250,8 +253,9 @@ TEST_F(ZELChildWindowLayoutTest, aNullSectionHandedInByTheApplication)
 {
     expectNoBackgroundLines();
     ZELChildWindow* const page = show(withLabel(""));
-    log().expectError("[createSubComponent] There is not <Components> tag in the page.resource file",
-                      1, "ZELChildWindow");
+    log().expectError(
+        "[createSubComponent] There is not <Components> tag in the page.resource file", 1,
+        "ZELChildWindow");
     page->createSubComponent(nullptr);
     EXPECT_EQ(ids(page), Strings{"l"});
 }
@@ -259,8 +263,9 @@ TEST_F(ZELChildWindowLayoutTest, aNullSectionHandedInByTheApplication)
 TEST_F(ZELChildWindowLayoutTest, namesAreCaseSensitive)
 {
     expectNoBackgroundLines();
-    log().expectError("[createSubComponent] There is not <Components> tag in the page.resource file",
-                      1, "ZELChildWindow");
+    log().expectError(
+        "[createSubComponent] There is not <Components> tag in the page.resource file", 1,
+        "ZELChildWindow");
     show("<layout><base><background>bg.png</background></base>"
          "<components><label><l/></label></components></layout>");
 }
@@ -279,8 +284,8 @@ TEST_F(ZELChildWindowLayoutTest, unknownKeywords)
 TEST_F(ZELChildWindowLayoutTest, aKeywordWhoseClassDoesNotExistYet)
 {
     Strings keywords;
-    for (const auto* table : {&Components::componentTable(), &Components::buttonTable(),
-                              &Components::listTable()}) {
+    for (const auto* table :
+         {&Components::componentTable(), &Components::buttonTable(), &Components::listTable()}) {
         for (const ComponentEntry& entry : *table) {
             if (!entry.create)
                 keywords.emplace_back(entry.keyword);
@@ -332,8 +337,7 @@ TEST_F(ZELChildWindowLayoutTest, entitiesAreNotExpanded)
     }
     file += "]><layout><Base><background>&k;</background></Base><Components><label><l/></label>"
             "</Components></layout>";
-    log().expectError("[createBackgroundSubComponent] cannot load image: &k;", 1,
-                      "ZELChildWindow");
+    log().expectError("[createBackgroundSubComponent] cannot load image: &k;", 1, "ZELChildWindow");
     EXPECT_EQ(ids(show(file)), Strings{"l"});
 }
 
@@ -359,8 +363,8 @@ TEST_F(ZELChildWindowLayoutTest, thousandsOfComponents)
     for (int i = 0; i < 2000; ++i)
         labels += "<n" + std::to_string(i) + "/>";
     expectNoBackgroundLines();
-    ZELChildWindow* const page = show("<layout><Components><label>" + labels +
-                                      "</label></Components></layout>");
+    ZELChildWindow* const page =
+        show("<layout><Components><label>" + labels + "</label></Components></layout>");
     EXPECT_EQ(page->m_dqSubComponents.size(), 2000u);
     EXPECT_EQ(page->getSubComponent("n1999"), page->m_dqSubComponents.back());
 }
@@ -411,7 +415,8 @@ TEST_P(BadBackground, isNamedAndTheRestOfThePageIsThere)
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, BadBackground,
-                         ::testing::Values("missing", "empty", "text", "truncated", "half", "directory"),
+                         ::testing::Values("missing", "empty", "text", "truncated", "half",
+                                           "directory"),
                          [](const auto& kind) { return std::string(kind.param); });
 
 // ---- exceptions while the layout is loaded or the components are made
@@ -419,7 +424,7 @@ INSTANTIATE_TEST_SUITE_P(Files, BadBackground,
 class ZELChildWindowFaultTest : public ZELChildWindowLayoutTest
 {
 protected:
-    ZELChildWindowFaultTest()
+    void SetUp() override
     {
         addPages({"a"});
         frame().moveTo("a");

@@ -28,8 +28,8 @@ using Strings = std::vector<std::string>;
 class FieldsPage : public ZELChildWindow
 {
 public:
-    using ZELChildWindow::ZELChildWindow;
     using ZELChildWindow::m_layout;
+    using ZELChildWindow::ZELChildWindow;
 
     std::string identity() const { return m_logger.m_strIdentity; }
     std::string rootIdentity() const { return ZELWindow::m_logger.m_strIdentity; }
@@ -274,8 +274,7 @@ TEST_F(ZELChildWindowTest, aBaseWithoutABackgroundSaysSo)
 TEST_F(ZELChildWindowTest, anEmptyBackgroundCostsTheSameLine)
 {
     expectNoBackgroundLines();
-    EXPECT_TRUE(
-        ids(*page("<layout><Base><background/></Base><Components/></layout>")).empty());
+    EXPECT_TRUE(ids(*page("<layout><Base><background/></Base><Components/></layout>")).empty());
     EXPECT_EQ(log().count("[D] [getBackgroundImageName] no background data"), 0);
 }
 
@@ -323,8 +322,11 @@ TEST_F(ZELChildWindowTest, buildsInTheOrderOfTheFileGroupByGroup)
 TEST_F(ZELChildWindowTest, theComponentsAreVisibleAndThePageIsNot)
 {
     const auto built = pageOf("<label><a><position width='10' height='10'/></a><b/></label>");
-    for (ZELComponent* component : built->m_dqSubComponents)
+    for (ZELComponent* component : built->m_dqSubComponents) {
         EXPECT_FALSE(component->getQWidget()->isHidden());
+        // by a call, not only because Qt shows what nobody hid
+        EXPECT_TRUE(component->getQWidget()->testAttribute(Qt::WA_WState_ExplicitShowHide));
+    }
     EXPECT_FALSE(built->isVisible());
     built->show();
     EXPECT_TRUE(built->m_dqSubComponents.front()->getQWidget()->isVisible());
@@ -380,7 +382,10 @@ TEST_F(ZELChildWindowTest, showSubComponentShowsEachInOrder)
     class Watch : public QObject
     {
     public:
-        explicit Watch(QList<QObject*>& shown) : m_shown(shown) {}
+        explicit Watch(QList<QObject*>& shown)
+            : m_shown(shown)
+        {
+        }
         bool eventFilter(QObject* watched, QEvent* event) override
         {
             if (event->type() == QEvent::Show)

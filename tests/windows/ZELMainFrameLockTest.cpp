@@ -297,9 +297,9 @@ TEST_F(ZELMainFrameFaultTest, thrownByTheConstructorOfAPage)
         steps();
         // the page is complete as far as the library made it, and goes away again
         expectToPass("create b", fault, [this] { frame().moveToEx("b", true, true); });
-        EXPECT_EQ(frame().QObject::findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)
-                      .size(),
-                  1)
+        EXPECT_EQ(
+            frame().QObject::findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly).size(),
+            1)
             << fault.name;
     }
     EXPECT_EQ(frame().moveTo("b")->m_strID, "b");

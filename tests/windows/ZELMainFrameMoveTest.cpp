@@ -211,12 +211,10 @@ TEST_F(ZELMainFrameMoveTest, withoutActivatingThereIsNeitherHookNorEvent)
     EXPECT_NE(frame().moveToEx("a", true, false), nullptr);
     EXPECT_EQ(allSteps(), (Strings{"create a", "show a"}));
     frame().moveTo("b", true, false);
-    EXPECT_EQ(allSteps(),
-              (Strings{"create b", "show b", "disable a", "hide a", "activated b"}))
+    EXPECT_EQ(allSteps(), (Strings{"create b", "show b", "disable a", "hide a", "activated b"}))
         << "activated() is called all the same";
     frame().moveBack(false);
-    EXPECT_EQ(allSteps(),
-              (Strings{"show a", "enable a", "disable b", "hide b", "activated a"}));
+    EXPECT_EQ(allSteps(), (Strings{"show a", "enable a", "disable b", "hide b", "activated a"}));
 }
 
 TEST_F(ZELMainFrameMoveTest, theExFormsLeaveActivatedOut)
@@ -448,8 +446,7 @@ TEST_F(ZELMainFrameMoveTest, whenThePageBehindIsRefusedItsEntryStaysRemoved)
     log().startHere();
     log().expectError("[moveBackEx] Back Window is NULL", 1, "ZELMainFrame");
     EXPECT_EQ(frame().moveBack(true), nullptr);
-    log().expectInOrder({"[I] [moveBackEx] b <== c",
-                         "[D] [findChild] Cannot Find Window (ID: b)",
+    log().expectInOrder({"[I] [moveBackEx] b <== c", "[D] [findChild] Cannot Find Window (ID: b)",
                          "[E] [moveBackEx] Back Window is NULL"});
     EXPECT_EQ(frame().history(), (Strings{"a", "b"}));
     EXPECT_EQ(frame().getCurrentWindow(), c);
@@ -486,8 +483,7 @@ TEST_F(ZELMainFrameMoveTest, aFirstVisitWritesNoMoreThanThatThePageWasNotThere)
 {
     log().startHere();
     frame().moveTo("a");
-    EXPECT_EQ(log().texts("ZELMainFrame"),
-              Strings{"[D] [findChild] Cannot Find Window (ID: a)"});
+    EXPECT_EQ(log().texts("ZELMainFrame"), Strings{"[D] [findChild] Cannot Find Window (ID: a)"});
     log().startHere();
     frame().moveTo("a");
     EXPECT_EQ(log().texts("ZELMainFrame"), Strings());

@@ -66,15 +66,13 @@ TEST_F(ZELMainFrameRemoveTest, deletesAllButTheNamedPageAndGoesBack)
     frame().removeAllChildWnd("c");
 
     EXPECT_FALSE(c.isNull());
-    EXPECT_EQ(log().texts("ZELMainFrame"),
-              (Strings{"[D] [removeAllChildWnd] start",
-                       "[D] [removeAllChildWnd] before delete a Window",
-                       "[D] [removeAllChildWnd] finished window deletion",
-                       "[D] [removeAllChildWnd] before delete b Window",
-                       "[D] [removeAllChildWnd] finished window deletion",
-                       "[I] [moveBackEx] b <== c",
-                       "[D] [findChild] Cannot Find Window (ID: b)",
-                       "[D] [removeAllChildWnd] end"}));
+    EXPECT_EQ(
+        log().texts("ZELMainFrame"),
+        (Strings{"[D] [removeAllChildWnd] start", "[D] [removeAllChildWnd] before delete a Window",
+                 "[D] [removeAllChildWnd] finished window deletion",
+                 "[D] [removeAllChildWnd] before delete b Window",
+                 "[D] [removeAllChildWnd] finished window deletion", "[I] [moveBackEx] b <== c",
+                 "[D] [findChild] Cannot Find Window (ID: b)", "[D] [removeAllChildWnd] end"}));
     EXPECT_EQ(frame().history(), (Strings{"a", "b"}));
     EXPECT_EQ(liveIds(), "b ");
     EXPECT_EQ(frame().getCurrentWindow()->m_strID, "b");
@@ -301,6 +299,7 @@ TEST_F(ZELMainFrameRemoveTest, noPageIsCurrentWhenTheCurrentOneDiedAndNoneFollow
     expectTooShortAHistory(1);
     log().expectError("[removeAllChildWnd] deletes the current window a", 1, "ZELMainFrame");
     frame().removeAllChildWnd("elsewhere");
+    EXPECT_EQ(frame().m_pCurrentWindow, nullptr) << "an application's frame may look at it";
     EXPECT_EQ(frame().getCurrentWindow(), nullptr);
     ZELChildWindow* const b = frame().moveTo("b");
     EXPECT_EQ(frame().getCurrentWindow(), b);
@@ -347,8 +346,8 @@ TEST_F(ZELMainFrameRemoveTest, theSparedPageMayDieWhileItIsOnScreen)
     steps();
     EXPECT_NE(frame().moveTo("b"), nullptr);
     EventLoop::deliver();
-    EXPECT_EQ(steps(), (Strings{"create b", "activating b", "show b", "activated b",
-                                "event 1550 b"}));
+    EXPECT_EQ(steps(),
+              (Strings{"create b", "activating b", "show b", "activated b", "event 1550 b"}));
     EXPECT_EQ(frame().getCurrentWindow()->m_strID, "b");
     EXPECT_EQ(frame().moveBack()->m_strID, "a");
 }

@@ -66,8 +66,7 @@ TEST_F(ZELMainFrameTest, keepsItsSizeAndPlaceWhenItIsShown)
 
 TEST_F(ZELMainFrameTest, isBlack)
 {
-    for (const QPalette::ColorRole role :
-         {QPalette::Window, QPalette::Base, QPalette::Button})
+    for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::Button})
         EXPECT_EQ(frame().palette().color(role), QColor(Qt::black)) << role;
     EXPECT_EQ(frame().palette().color(QPalette::WindowText), QColor(Qt::white));
 
@@ -133,7 +132,8 @@ TEST_F(ZELMainFrameTest, theBannerTellsWhenTheLibraryWasBuilt)
     log().startHere();
     const FieldsFrame frame;
     const std::string line = log().texts("ZELMainFrame").at(2);
-    const std::regex form(R"(\[I\]     Build: ([A-Z][a-z]{2}) ([ 123]\d) (\d{4}) (\d\d:\d\d:\d\d))");
+    const std::regex form(
+        R"(\[I\]     Build: ([A-Z][a-z]{2}) ([ 123]\d) (\d{4}) (\d\d:\d\d:\d\d))");
     std::smatch part;
     ASSERT_TRUE(std::regex_match(line, part, form)) << line;
 
@@ -144,8 +144,8 @@ TEST_F(ZELMainFrameTest, theBannerTellsWhenTheLibraryWasBuilt)
     EXPECT_TRUE(date.isValid()) << line;
     EXPECT_GE(date.year(), 2019) << line;
     EXPECT_LE(date, QDate::currentDate().addDays(1)) << line;
-    EXPECT_TRUE(QTime::fromString(QString::fromStdString(part[4]), QStringLiteral("hh:mm:ss"))
-                    .isValid())
+    EXPECT_TRUE(
+        QTime::fromString(QString::fromStdString(part[4]), QStringLiteral("hh:mm:ss")).isValid())
         << line;
 }
 

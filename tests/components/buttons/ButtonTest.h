@@ -99,9 +99,9 @@ protected:
     T* make(const std::string& xml, const std::string& type = "")
     {
         TAMFx::Common::Xml::Node* const node = xml.empty() ? nullptr : element(xml);
-        auto* const button = new T(&panel(), node ? xml.substr(1, xml.find_first_of(" />") - 1)
-                                                  : std::string("ok"),
-                                   type, node);
+        auto* const button =
+            new T(&panel(), node ? xml.substr(1, xml.find_first_of(" />") - 1) : std::string("ok"),
+                  type, node);
         button->showWindow();
         EventLoop::deliver();
         return button;

@@ -199,9 +199,9 @@ TEST_F(ZELCheckButtonTest, theTitleIsNeverElided)
 
 TEST_F(ZELCheckButtonTest, theTitleIsDrawnAsAnImageButtonDrawsIt)
 {
-    auto* const button = make<Check>(
-        ok("title='HH' style='normal' pressstyle='pressed'", "<textPos x='5' y='3' width='60' "
-                                                             "height='30' align='right'/>"));
+    auto* const button = make<Check>(ok("title='HH' style='normal' pressstyle='pressed'",
+                                        "<textPos x='5' y='3' width='60' "
+                                        "height='30' align='right'/>"));
     button->m_bChecked = true;
     QImage expected = filled(size, Qt::blue);
     drawText(expected, QStringLiteral("HH"), QRect(5, 3, 60, 30), 0x82, "pressed", Qt::red);

@@ -297,8 +297,8 @@ TEST_F(ZELIconCheckButtonTest, theIconCanBeHiddenAndChanged)
 TEST_F(ZELIconCheckButtonTest, anAbsurdScaleDoesNoHarm)
 {
     for (const char* scale : {"-50", "2147483647", "-2147483648"}) {
-        auto* const button = row("<icon image='square.png' align='center' scale='" +
-                                 std::string(scale) + "'/>");
+        auto* const button =
+            row("<icon image='square.png' align='center' scale='" + std::string(scale) + "'/>");
         EXPECT_FALSE(Pixels::grab(button).isNull()) << scale;
     }
 }

