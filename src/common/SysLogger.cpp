@@ -36,7 +36,7 @@ __attribute__((format(printf, 4, 0))) void writeLine(const std::string& identity
                                                      va_list arguments)
 {
     char line[lineLimit];
-    if (vsnprintf(line, sizeof line, format, arguments) < 0)
+    if (!format || vsnprintf(line, sizeof line, format, arguments) < 0)
         line[0] = '\0';
     openlog(identity.c_str(), LOG_CONS | LOG_NDELAY, LOG_USER);
     // the prefix is one of three literals of this file

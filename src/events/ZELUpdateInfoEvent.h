@@ -28,6 +28,7 @@ public:
     /** The stored item, still owned by the event; null for an index outside 0 to count - 1. */
     ZELUpdateInfoItem* getUpdateItem(int nIndex);
 
-    TAMFx::Data::Collection::ArrayList m_arrItem; ///< delete flag false; the event owns the items
-    PANFx::Common::SysLogger m_logger;            ///< without an identity
+    TAMFx::Data::Collection::ArrayList
+        m_arrItem;                     ///< entries that hold the items; the event owns them
+    PANFx::Common::SysLogger m_logger; ///< without an identity
 };

@@ -33,6 +33,7 @@ public:
      * There is no average of no items: 0 and an error line.
      */
     int getAveragePercent();
-    TAMFx::Data::Collection::ArrayList m_arrItem; ///< delete flag false; the event owns the items
-    PANFx::Common::SysLogger m_logger;            ///< without an identity
+    TAMFx::Data::Collection::ArrayList
+        m_arrItem;                     ///< entries that hold the items; the event owns them
+    PANFx::Common::SysLogger m_logger; ///< without an identity
 };

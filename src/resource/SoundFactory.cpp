@@ -25,8 +25,8 @@ SoundFactory::SoundFactory() = default;
 
 SoundFactory::~SoundFactory()
 {
-    delete m_pSound;
-    m_pSound = nullptr;
+    // first out of reach: a back end may play through the factory as it ends
+    delete std::exchange(m_pSound, nullptr);
 }
 
 void SoundFactory::registerSound(SoundBase* pSound)

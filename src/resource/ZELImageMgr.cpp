@@ -87,6 +87,7 @@ QPixmap* ZELImageMgr::getImage(std::string strName)
     // QPixmap's own reading goes through Qt's cache, which would keep the pixels when the language
     // goes, and could give back what the file held before
     *pixmap = QPixmap::fromImage(QImage(QFile::decodeName(Common::systemPath(path).c_str())));
+    pixmap->setDevicePixelRatio(1.0); // a name such as "a@2x.png" says nothing here
     m_tableImages.AddObj(strName.c_str(), new LoadedPicture(pixmap));
     return pixmap;
 }

@@ -39,7 +39,8 @@ public:
      */
     QPixmap* getImage(std::string strName);
 
-    TAMFx::Data::Collection::HashTable m_tableImages; ///< file name to picture, delete flag true
+    TAMFx::Data::Collection::HashTable
+        m_tableImages; ///< file name to an entry that leads to the picture
     std::string m_strBasePath;
     std::string m_strLocale;
     Common::SysLogger m_logger{"QTPANFx", "ZELImageMgr"};

@@ -173,13 +173,17 @@ void ZELMainFrame::removeAllChildWnd(std::string strID)
 {
     m_logger.WriteDebug("[%s] start", "removeAllChildWnd");
     ZELChildWindow* hiddenMain = nullptr;
-    for (ZELChildWindow* window : m_dqChildWindows) {
+    // by index, and without the page that dies: its end may look up or even make another page
+    for (size_t i = 0; i < m_dqChildWindows.size(); ++i) {
+        ZELChildWindow* window = m_dqChildWindows[i];
         if (!window || window->m_strID == strID)
             continue;
-        if (window->m_strID == m_strHiddenMainWindowID)
+        if (window->m_strID == m_strHiddenMainWindowID) {
             hiddenMain = window;
-        else
+        } else {
+            m_dqChildWindows[i] = nullptr;
             deleteWindow(window);
+        }
     }
     m_dqChildWindows.clear();
     if (hiddenMain)
@@ -214,7 +218,7 @@ void ZELMainFrame::changeLocale(std::string strLocale, std::string strID)
 
 ZELChildWindow* ZELMainFrame::currentWindow()
 {
-    if (m_currentAlive.isNull())
+    if (m_pCurrentWindow == m_pShownWindow && m_pShownAlive.isNull())
         m_pCurrentWindow = nullptr;
     return m_pCurrentWindow;
 }
@@ -222,7 +226,8 @@ ZELChildWindow* ZELMainFrame::currentWindow()
 void ZELMainFrame::setCurrentWindow(ZELChildWindow* pWindow)
 {
     m_pCurrentWindow = pWindow;
-    m_currentAlive = pWindow;
+    m_pShownWindow = pWindow;
+    m_pShownAlive = pWindow;
 }
 
 } // namespace PANFx::Windows

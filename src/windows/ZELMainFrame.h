@@ -112,7 +112,7 @@ protected:
     std::string m_strMainWindowID;
     std::string m_strHiddenMainWindowID;
     int m_nReserved = 0;                          ///< the application's
-    ZELChildWindow* m_pCurrentWindow = nullptr;   ///< the page on screen, set by move only
+    ZELChildWindow* m_pCurrentWindow = nullptr;   ///< the page on screen
     std::deque<ZELChildWindow*> m_dqChildWindows; ///< every live page, in order of creation
     TAMFx::Util::System::CCriticalSection m_csNavigation;
     Common::SysLogger m_logger{"QTPANFx", "ZELMainFrame"};
@@ -125,7 +125,8 @@ private:
     void deleteWindow(ZELChildWindow* pWindow);
 
     // a page that was spared is the application's to delete, on screen or not
-    QPointer<QObject> m_currentAlive;
+    ZELChildWindow* m_pShownWindow = nullptr; ///< what move made the current page
+    QPointer<QObject> m_pShownAlive;          ///< null once that page is gone
 };
 
 } // namespace PANFx::Windows

@@ -88,21 +88,36 @@ int ZELPopupWindow::exec()
         m_logger.WriteError("[%s] %s has run by showAndWait", "exec", m_strID.c_str());
         return m_nPopupResult;
     }
+    QWidget* widget = this;
+    const QPointer<QWidget> alive(widget);
+    m_bExecMode = true;
     playPopupSound();
     activating();
-    QCoreApplication::postEvent(static_cast<QWidget*>(this), new ZELEvent(EVENT_WINDOW_ACTIVATE));
-    const QPointer<QObject> alive(static_cast<QWidget*>(this));
+    if (!alive)
+        return -1;
+    QCoreApplication::postEvent(widget, new ZELEvent(EVENT_WINDOW_ACTIVATE));
     QDialog::exec();
-    return alive ? m_nPopupResult : -1;
+    if (!alive)
+        return -1;
+    m_bExecMode = false;
+    return m_nPopupResult;
 }
 
 int ZELPopupWindow::showAndWait()
 {
+    if (m_bExecMode) {
+        // exec would never end: accept and reject would end this loop in its place
+        m_logger.WriteError("[%s] %s runs by exec", "showAndWait", m_strID.c_str());
+        return m_nPopupResult;
+    }
+    QWidget* widget = this;
+    const QPointer<QWidget> alive(widget);
     playPopupSound();
     m_bLoopMode = true;
     activating();
+    if (!alive)
+        return -1;
     setVisible(true);
-    const QPointer<QObject> alive(static_cast<QWidget*>(this));
     eventLoopExec();
     return alive ? m_nPopupResult : -1;
 }

@@ -60,7 +60,7 @@ public:
     /**
      * Shows the dialog and waits in a loop of its own, without modality: pages underneath go on
      * getting events. The dialog stays visible afterwards.
-     * @return m_nPopupResult
+     * @return m_nPopupResult. While exec() runs it returns at once, with an error line
      */
     int showAndWait();
 
@@ -93,6 +93,8 @@ protected:
 
 private:
     void playPopupSound();
+
+    bool m_bExecMode = false; ///< exec is running
 };
 
 } // namespace PANFx::Windows

@@ -10,12 +10,14 @@
 #include <pthread.h>
 #include <sched.h>
 #include <stdexcept>
+#include <string>
 #include <sys/ipc.h>
 #include <sys/sem.h>
 #include <sys/wait.h>
 #include <thread>
 #include <type_traits>
 #include <unistd.h>
+#include <vector>
 
 using PANFx::Testing::SystemCall;
 using PANFx::Testing::SystemFaults;
@@ -95,6 +97,18 @@ TEST(CCriticalSection, makesOnePrivateSemaphoreThatAllMayUse)
     EXPECT_EQ(state.sem_nsems, 1u);
     EXPECT_EQ(state.sem_perm.mode & 0777, 0666);
     EXPECT_EQ(valueOf(section.m_nSemID), 0);
+}
+
+TEST(CCriticalSection, asksTheSystemInItsFixedWords)
+{
+    using Strings = std::vector<std::string>;
+    const SystemFaults faults;
+    CCriticalSection section;
+    EXPECT_EQ(faults.arguments(SystemCall::Semget), Strings{"0 1 03666"});
+    section.Lock();
+    EXPECT_EQ(faults.arguments(SystemCall::Semop), Strings{"{0,0,0}{0,1,0}"});
+    section.Unlock();
+    EXPECT_EQ(faults.arguments(SystemCall::Semop), (Strings{"{0,0,0}{0,1,0}", "{0,-1,0}"}));
 }
 
 TEST(CCriticalSection, isNoOtherSectionsSemaphore)

@@ -4,6 +4,7 @@
 #include "support/SystemLogSocket.h"
 
 #include <cstdio>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <pthread.h>
 #include <sched.h>
@@ -243,14 +244,31 @@ bool allSent(const std::vector<std::string>& lines)
            isSent(lines[2], "<15>", "[I] [setPage] 2") && lines[3].empty();
 }
 
-// In a child that sees a /dev of its own: 0 when the lines came, 1 when not, 2 without such a /dev.
+// root may have mounts of its own; anybody else has to be root in a world of its own first
+bool ownPlaces()
+{
+    if (unshare(CLONE_NEWNS) == 0)
+        return true;
+    const uid_t user = getuid();
+    if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+        return false;
+    std::ofstream("/proc/self/uid_map") << "0 " << user << " 1";
+    return getuid() == 0;
+}
+
+bool mountEmpty(const char* place)
+{
+    return mount("none", place, "tmpfs", 0, nullptr) == 0;
+}
+
+// In a child that sees a /dev of its own, and a /tmp, where the tests' lock for it lies: 0 when the
+// lines came, 1 when not, 2 without such places.
 int sentFromAPrivateDev()
 {
     const pid_t child = fork();
     if (child == 0) {
-        const bool own = unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
-        if (!own || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-            mount("none", "/dev", "tmpfs", 0, nullptr) != 0)
+        if (!ownPlaces() || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            !mountEmpty("/dev") || !mountEmpty("/tmp"))
             _exit(2);
         SystemLogSocket socket;
         _exit(!socket.listening() ? 2 : allSent(sentToTheSystem(socket)) ? 0 : 1);

@@ -1,14 +1,15 @@
 #include "common/ZELWindow.h"
 
 #include "support/LogCapture.h"
+#include "support/VirtualSlot.h"
 
 #include <cstdint>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
 #include <type_traits>
 
 using PANFx::Testing::LogCapture;
+using PANFx::Testing::slot;
 using PANFx::Windows::ZELWindow;
 
 namespace {
@@ -34,16 +35,6 @@ public:
 private:
     bool& m_deleted;
 };
-
-// where a virtual operation stands among the others of its class, in bytes
-template <typename Operation>
-std::intptr_t slot(Operation operation)
-{
-    std::intptr_t place = 0;
-    static_assert(sizeof operation >= sizeof place);
-    std::memcpy(&place, &operation, sizeof place);
-    return place;
-}
 
 } // namespace
 

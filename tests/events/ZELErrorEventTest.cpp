@@ -1,5 +1,7 @@
 #include "events/ZELErrorEvent.h"
 
+#include <QObject>
+
 #include <gtest/gtest.h>
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include "events/EventNumbers.h"
 
+#include <QObject>
+
 #include <gtest/gtest.h>
 
 TEST(ZELListEvent, tellsThePlaceInTheList)

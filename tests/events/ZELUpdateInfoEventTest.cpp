@@ -122,3 +122,10 @@ TEST(ZELUpdateInfoEvent, isReadByThePageThatItIsPostedTo)
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(page.m_versions, "Boot 1.0;App 2.7;");
 }
+
+TEST(ZELUpdateInfoEvent, holdsItsItemsBeforeItsLoggerSoThatTheyEndAfterIt)
+{
+    const ZELUpdateInfoEvent event(application);
+    EXPECT_LT(static_cast<const void*>(&event.m_arrItem),
+              static_cast<const void*>(&event.m_logger));
+}

@@ -117,3 +117,9 @@ TEST_F(ZELUpdateStatusEventTest, ownsItsItemsWhereItsListDoesNot)
     delete first; // a second time, if the list had done it
     EXPECT_EQ(m_event.getAveragePercent(), 20);
 }
+
+TEST_F(ZELUpdateStatusEventTest, holdsItsItemsBeforeItsLoggerSoThatTheyEndAfterIt)
+{
+    EXPECT_LT(static_cast<const void*>(&m_event.m_arrItem),
+              static_cast<const void*>(&m_event.m_logger));
+}

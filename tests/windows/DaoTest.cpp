@@ -163,6 +163,19 @@ TEST_F(DaoTest, ownsItsConnectionForLife)
     EXPECT_EQ(calls.back(), "deleted");
 }
 
+TEST_F(DaoTest, runsItsWholeSequenceWhateverOpenAnswers)
+{
+    fake->m_opened = false;
+    fake->m_changed = 7;
+    EXPECT_EQ(dao.execDB("x"), 7);
+    EXPECT_EQ(calls(), (Strings{open, "Execute x 200000", "Close"}));
+    EXPECT_EQ(dao.execDBwithLock("x"), 7);
+    EXPECT_EQ(calls(), (Strings{open, "Lock", "Execute x 200000", "UnLock", "Close"}));
+    Table table;
+    EXPECT_TRUE(dao.execDBTable("x", table));
+    EXPECT_EQ(calls(), (Strings{open, "getTable x", "Close"}));
+}
+
 // ---- failures
 
 TEST_F(DaoTest, execDBLogsAFailureClosesAndReturnsZero)
@@ -225,6 +238,16 @@ TEST_F(DaoTest, aFailureAtTheEndCountsAsOneToo)
     log().expectError("[execDBwithLock] Exception : no such table: reagents", 1, "Dao");
     EXPECT_EQ(dao.execDBwithLock("x"), 0);
     EXPECT_EQ(calls(), (Strings{open, "Lock", "Execute x 200000", "UnLock", "UnLock", "Close"}));
+}
+
+TEST_F(DaoTest, aFailureAtTheEndOfATableCountsAsOneToo)
+{
+    Table table;
+    fake->m_failAt = "Close";
+    log().startHere();
+    EXPECT_FALSE(dao.execDBTable("x", table));
+    EXPECT_EQ(log().texts(), Strings{"[D] [execDBTable] Exception : no such table: reagents"});
+    EXPECT_EQ(calls(), (Strings{open, "getTable x", "Close", "Close"}));
 }
 
 TEST_F(DaoTest, theLinesCarryTheClassAndTheTextAsItStands)

@@ -1,5 +1,6 @@
 #include "windows/ZELChildWindow.h"
 
+#include "components/Slot.h"
 #include "components/ZELComponent.h"
 #include "components/pictures/ZELImageBox.h"
 #include "components/text/ZELLabel.h"
@@ -62,6 +63,16 @@ protected:
 };
 
 // ---- the shell
+
+TEST_F(ZELChildWindowTest, hasItsVirtualOperationsInTheirFixedOrder)
+{
+    const std::intptr_t first = slot(&ZELChildWindow::activating);
+    EXPECT_EQ(slot(&ZELChildWindow::activated), first + slotSize);
+    EXPECT_EQ(slot(&ZELChildWindow::powerOffKeyReleased), first + 2 * slotSize);
+    EXPECT_EQ(slot(&ZELChildWindow::CoverClose), first + 3 * slotSize);
+    EXPECT_EQ(slot(&ZELChildWindow::CoverOpen), first + 4 * slotSize);
+    EXPECT_EQ(slot(&ZELChildWindow::setSampleData), first + 5 * slotSize);
+}
 
 TEST_F(ZELChildWindowTest, isAWindowOfTheLibraryFirstAndAWidgetSecond)
 {

@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+#include <stdexcept>
+
 using namespace PANFx;
 using namespace PANFx::Testing;
 using Windows::ZELChildWindow;
@@ -452,6 +454,35 @@ TEST_F(ZELMainFrameMoveTest, whenThePageBehindIsRefusedItsEntryStaysRemoved)
     EXPECT_EQ(frame().getCurrentWindow(), c);
     EXPECT_TRUE(c->isVisible());
     EXPECT_EQ(allSteps(), Strings());
+    EXPECT_FALSE(lockHeld());
+}
+
+// ---- pages that throw
+
+TEST_F(ZELMainFrameMoveTest, whatActivatingThrowsPassesAndTheNextMoveWorks)
+{
+    ZELChildWindow* const a = frame().moveTo("a");
+    allSteps();
+    at("activating b", [] { throw std::runtime_error("a fault of the application"); });
+    EXPECT_THROW(frame().moveTo("b", true, true), std::runtime_error);
+    EXPECT_FALSE(lockHeld());
+    ZELChildWindow* const b = frame().findChild("b");
+    ASSERT_NE(b, nullptr);
+    EXPECT_EQ(frame().getCurrentWindow(), b) << "the move had begun";
+    EXPECT_EQ(frame().history(), (Strings{"a", "b"}));
+    EXPECT_TRUE(a->isVisible());
+    EXPECT_TRUE(a->isEnabled());
+    EXPECT_FALSE(b->isVisible());
+    EXPECT_EQ(allSteps(), (Strings{"create b", "activating b"})) << "no activation is posted";
+
+    ZELChildWindow* const c = frame().moveTo("c", true, true);
+    ASSERT_NE(c, nullptr);
+    EXPECT_EQ(frame().getCurrentWindow(), c);
+    EXPECT_TRUE(c->isVisible());
+    EXPECT_TRUE(c->isEnabled());
+    EXPECT_FALSE(b->isVisible());
+    EXPECT_TRUE(a->isVisible()) << "below the new page: only the page moved from is hidden";
+    EXPECT_EQ(frame().history(), (Strings{"a", "b", "c"}));
     EXPECT_FALSE(lockHeld());
 }
 

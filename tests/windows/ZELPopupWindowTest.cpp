@@ -495,6 +495,46 @@ TEST_F(ZELPopupWindowTest, execAfterTheWaitWouldNeverEndAndIsRefused)
     EXPECT_EQ(popups(), 1);
 }
 
+TEST_F(ZELPopupWindowTest, aWaitInsideExecIsRefusedSoThatAcceptStillEndsIt)
+{
+    const auto shown = dialog();
+    log().expectError("[showAndWait] ask runs by exec", 1, "ZELPopupWindow");
+    inTheLoop([&] {
+        shown->m_nPopupResult = 4;
+        EXPECT_EQ(shown->showAndWait(), 4);
+        shown->accept();
+    });
+    EXPECT_EQ(shown->exec(), 4);
+    EXPECT_EQ(shown->result(), int(QDialog::Accepted));
+    EXPECT_EQ(popups(), 1);
+}
+
+TEST_F(ZELPopupWindowTest, afterExecItCanStillWait)
+{
+    const auto shown = dialog();
+    inTheLoop([&] { shown->accept(); });
+    shown->exec();
+    inTheLoop([&] {
+        shown->m_nPopupResult = 6;
+        shown->accept();
+    });
+    EXPECT_EQ(shown->showAndWait(), 6);
+}
+
+TEST_F(ZELPopupWindowTest, deletedByItsOwnActivatingItLetsTheCallerGo)
+{
+    class Gone : public ZELPopupWindow
+    {
+    public:
+        using ZELPopupWindow::ZELPopupWindow;
+        void activating() override { delete this; }
+    };
+    writeLayout("ask", "<layout><Components/></layout>");
+    expectNoBackgroundLines(2);
+    EXPECT_EQ((new Gone("ask", nullptr))->exec(), -1);
+    EXPECT_EQ((new Gone("ask", nullptr))->showAndWait(), -1);
+}
+
 TEST_F(ZELPopupWindowTest, deletedWhileItWaitsItLetsTheCallerGo)
 {
     auto* const shown = dialog().release();

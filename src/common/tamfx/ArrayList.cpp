@@ -10,7 +10,10 @@ ArrayList::ArrayList() = default;
 
 ArrayList::~ArrayList()
 {
-    for (const Entry& entry : m_entries)
+    // The list is empty before the first object dies, whatever its destructor asks of the list.
+    const std::vector<Entry> entries = std::move(m_entries);
+    m_entries.clear();
+    for (const Entry& entry : entries)
         freeObject(entry);
 }
 

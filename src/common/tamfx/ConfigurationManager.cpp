@@ -17,9 +17,10 @@ namespace {
 
 [[noreturn]] void fail(const std::string& strPath, int nError)
 {
+    const std::string strName = strPath.substr(strPath.rfind('/') + 1);
     static thread_local ConfigurationException exception;
     const std::string strMessage =
-        "cannot read " + strPath + ": " + std::system_category().message(nError);
+        "cannot read " + strName + ": " + std::system_category().message(nError);
     exception = ConfigurationException(strMessage.c_str(), nError);
     throw &exception;
 }

@@ -8,7 +8,10 @@ namespace TAMFx::Data::Collection {
 
 HashTable::HashTable() = default;
 
-HashTable::~HashTable() = default;
+HashTable::~HashTable()
+{
+    HashTable::ClearAll();
+}
 
 void HashTable::AddObj(const char* pszKey, Object* pValue)
 {

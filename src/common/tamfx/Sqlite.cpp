@@ -96,8 +96,8 @@ void Sqlite::Lock()
     m_nLockFile = Common::openLocked(strLockFile, O_RDONLY | O_CREAT, modeOfLockFile);
     if (m_nLockFile < 0) {
         const std::string strReason = std::system_category().message(errno);
-        throw DBException(("cannot lock " + strLockFile + ": " + strReason).c_str(),
-                          SQLITE_CANTOPEN);
+        const std::string strName = strLockFile.substr(strLockFile.rfind('/') + 1);
+        throw DBException(("cannot lock " + strName + ": " + strReason).c_str(), SQLITE_CANTOPEN);
     }
 }
 

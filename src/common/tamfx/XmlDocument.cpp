@@ -24,13 +24,21 @@ XmlDocument::~XmlDocument()
 
 bool XmlDocument::LoadXMLFile(const char* pszPath)
 {
+    // a copy, since the path may be a text of the very document that goes now
+    const std::string strPath = pszPath ? pszPath : "";
     removeAll();
-    std::string strContent;
-    if (!pszPath || readFile(pszPath, strContent) != 0)
+    try {
+        std::string strContent;
+        if (readFile(strPath, strContent) != 0)
+            return false;
+        const std::string strName = strPath.substr(strPath.rfind('/') + 1);
+        XmlTreeBuilder::build(strName.c_str(), strContent, *this);
+        return true;
+    } catch (const std::bad_alloc&) {
+        // a damaged file can be larger than the memory of a small board
+        removeAll();
         return false;
-    const char* pszSlash = std::strrchr(pszPath, '/');
-    XmlTreeBuilder::build(pszSlash ? pszSlash + 1 : pszPath, strContent, *this);
-    return true;
+    }
 }
 
 NodeList* XmlDocument::getNodeListByName(const char* pszName) const

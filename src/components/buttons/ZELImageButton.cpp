@@ -103,8 +103,9 @@ void ZELImageButton::setLayout(Node* pLayout)
     setImages(std::move(down), std::move(up), std::move(dim));
 
     const LayoutPosition place = readPosition(position, {0, 0, 1, 1});
-    setGeometry(place.rect());
-    setOrgPos(place.x, place.y);
+    const QRect geometry = place.rect();
+    setGeometry(geometry);
+    setOrgPos(geometry.x(), geometry.y());
     if (textPos) {
         m_textRect = readPosition(textPos, place).rect();
         m_nAlign = ParseHelper::getAlign(textPos->getAttributeByName("align"), Qt::AlignCenter);
@@ -171,8 +172,8 @@ void ZELImageButton::setElidedText(bool)
 
 void ZELImageButton::setOrgPos(int nX, int nY)
 {
-    m_nOrgX = nX;
-    m_nOrgY = nY;
+    m_nOrgX = std::clamp(nX, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    m_nOrgY = std::clamp(nY, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 
 void ZELImageButton::setDimMode(bool bDimMode)

@@ -112,7 +112,7 @@ protected:
     QRect m_imageRect; ///< in widget coordinates; unset means the whole widget
     QRect m_textRect;  ///< in widget coordinates; unset means the whole widget
     std::string m_strAnimation;
-    Timer* m_pTimer; ///< owned
+    Timer* m_pTimer = nullptr; ///< owned
     bool m_bLongPressed = false;
     int m_nLongPressCount = 0; ///< ticks in this press
     bool m_bLongPress = false;

@@ -25,6 +25,7 @@ void ZELRadioButton::setCheck(int nCheck)
     update();
     repaint();
 }
+
 void ZELRadioButton::mouseReleaseEvent(QMouseEvent* pEvent)
 {
     m_bChecked = true;

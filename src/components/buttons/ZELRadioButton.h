@@ -27,6 +27,7 @@ public:
      * the present state does nothing; any other number checks and always repaints.
      */
     void setCheck(int nCheck);
+
     /** Read and written by owners, which ask for the repaint themselves. */
     bool m_bChecked = false;
 

@@ -183,9 +183,12 @@ void ZELRadioGroup::handleClick(const QObject* pSender)
         else
             m_logger.WriteError("[%s] %s does not hold the sender", "event", m_strID.c_str());
     }
-    if (parent())
-        QCoreApplication::postEvent(
-            parent(), new ZELEvent(EVENT_MOUSE_UP, const_cast<QObject*>(pSender), ""));
+    if (!parent()) {
+        m_logger.WriteError("[%s] %s has no parent", "event", m_strID.c_str());
+        return;
+    }
+    QCoreApplication::postEvent(parent(),
+                                new ZELEvent(EVENT_MOUSE_UP, const_cast<QObject*>(pSender), ""));
 }
 
 } // namespace PANFx::Components

@@ -23,7 +23,8 @@ struct LayoutPosition
     QRect rect() const;
 };
 
-/** Reads "x", "y", "width" and "height" of an element; what is absent, or null, is as @p defaults. */
+/** Reads "x", "y", "width" and "height" of an element; what is absent, or null, is as @p defaults.
+ */
 LayoutPosition readPosition(TAMFx::Common::Xml::Node* pNode, LayoutPosition defaults);
 
 } // namespace PANFx::Components

@@ -35,8 +35,8 @@ void drawPicture(QPainter& painter, const QPixmap* pPixmap, const QRect& rect)
     if (!hasPicture(pPixmap))
         return;
     // where nothing is scaled or turned, smoothing changes no pixel and takes Qt off its fast path
-    const bool exact = rect.size() == pPixmap->size()
-                       && painter.deviceTransform().type() <= QTransform::TxTranslate;
+    const bool exact = rect.size() == pPixmap->size() &&
+                       painter.deviceTransform().type() <= QTransform::TxTranslate;
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !exact);
     painter.drawPixmap(rect, *pPixmap, QRect());
 }
