@@ -91,7 +91,7 @@ Node* faults_getChildNode(const Node* node, int index)
 FileProperty* faults_openProperty(ConfigurationManager* manager, const char* path, int mode)
 {
     if (active && active->onOpenProperty)
-        return active->onOpenProperty();
+        return active->onOpenProperty(path, mode);
     return next<FileProperty* (*)(ConfigurationManager*, const char*, int)>(OPEN_PROPERTY)(
         manager, path, mode);
 }

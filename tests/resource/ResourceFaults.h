@@ -35,8 +35,8 @@ public:
     /** So many of the next allocations that may fail do. */
     int failingAllocations = 0;
 
-    /** Called instead of opening a configuration file. */
-    std::function<TAMFx::Data::Properties::FileProperty*()> onOpenProperty;
+    /** Called instead of opening a configuration file, with its path and mode. */
+    std::function<TAMFx::Data::Properties::FileProperty*(const std::string&, int)> onOpenProperty;
 
     /** Called before a path is handed to the system, with the instrument's path. */
     std::function<void(const std::string& path)> onPath;

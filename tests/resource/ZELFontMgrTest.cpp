@@ -450,3 +450,8 @@ TEST_F(ZELFontMgrTest, isDeletedThroughItsBase)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<ZELFontMgr>);
 }
+
+TEST_F(ZELFontMgrTest, signsWithItsOwnName)
+{
+    EXPECT_EQ(m_manager.m_logger.m_strIdentity, "QTPANFx ZELFontMgr     ");
+}

@@ -394,6 +394,14 @@ TEST_F(ZELImageMgrTest, leavesACopyThatSomebodyTookAlone)
     EXPECT_EQ(colourOf(&copy), red);
 }
 
+TEST_F(ZELImageMgrTest, looksAtThePictureAndNotAtItsNameForTheFormat)
+{
+    writePicture("a.jpg", 4, 4, red); // the bytes of a PNG
+    begin();
+    EXPECT_EQ(readFile(imagePath("a.jpg")).substr(1, 3), "PNG");
+    EXPECT_EQ(colourOf("a.jpg"), red);
+}
+
 // ---- what never happens by itself
 
 TEST_F(ZELImageMgrTest, tellsAPictureThatThereIsNoRoomFor)
@@ -432,4 +440,9 @@ TEST_F(ZELImageMgrTest, isDeletedThroughItsBase)
     const auto manager = std::make_unique<ZELImageMgr>();
     manager->setBasePath(resources);
     EXPECT_EQ(colourOf(manager->getImage("a.png")), red);
+}
+
+TEST_F(ZELImageMgrTest, signsWithItsOwnName)
+{
+    EXPECT_EQ(m_manager.m_logger.m_strIdentity, "QTPANFx ZELImageMgr    ");
 }

@@ -324,3 +324,8 @@ TEST_F(ZELLayoutTest, isDeletedThroughItsBase)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<ZELLayout>);
 }
+
+TEST_F(ZELLayoutTest, signsWithItsOwnName)
+{
+    EXPECT_EQ(m_layout.m_logger.m_strIdentity, "QTPANFx ZELLayout      ");
+}

@@ -1,6 +1,7 @@
 #include "resource/ZELResourceMgr.h"
 
 #include "common/tamfx/ConfigurationException.h"
+#include "common/tamfx/Exception.h"
 #include "common/tamfx/FileProperty.h"
 #include "resource/Font.h"
 #include "resource/ResourceFaults.h"
@@ -14,6 +15,8 @@
 
 #include <cerrno>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 using namespace PANFx::Testing;
 using PANFx::Resource::Font;
@@ -57,6 +60,12 @@ const char* const table = "<table>"
                           "<String key='two lines'><c/><c>a\\nb</c></String>"
                           "<String key='at'><c/><c>@k</c></String>"
                           "</table>";
+
+class OpenManager : public ZELResourceMgr
+{
+public:
+    using ZELResourceMgr::m_logger;
+};
 
 } // namespace
 
@@ -237,7 +246,7 @@ TEST_F(ZELResourceMgrTest, tellsTheMessageOfAConfigurationThatFails)
 {
     ConfigurationException exception("out of luck");
     ResourceFaults faults;
-    faults.onOpenProperty = [&]() -> FileProperty* { throw &exception; };
+    faults.onOpenProperty = [&](const std::string&, int) -> FileProperty* { throw &exception; };
     log().startHere();
     manager();
     EXPECT_EQ(log().texts(), std::vector<std::string>{"[D] [ZELResourceMgr] out of luck"});
@@ -247,7 +256,7 @@ TEST_F(ZELResourceMgrTest, tellsTheMessageOfAConfigurationThatFails)
 TEST_F(ZELResourceMgrTest, isSilentAboutAFailureThatSaysNothing)
 {
     ResourceFaults faults;
-    faults.onOpenProperty = []() -> FileProperty* {
+    faults.onOpenProperty = [](const std::string&, int) -> FileProperty* {
         throw static_cast<ConfigurationException*>(nullptr);
     };
     log().startHere();
@@ -259,10 +268,39 @@ TEST_F(ZELResourceMgrTest, isSilentAboutAFailureThatSaysNothing)
 TEST_F(ZELResourceMgrTest, livesWithoutAConfigurationThatIsNotGiven)
 {
     ResourceFaults faults;
-    faults.onOpenProperty = []() -> FileProperty* { return nullptr; };
+    faults.onOpenProperty = [](const std::string&, int) -> FileProperty* { return nullptr; };
     log().expectError("[ZELResourceMgr] no configuration: /data/config/config_zelapp.cfg", 1,
                       "ZELResourceMgr");
     expectNothingToBeFound();
+}
+
+TEST_F(ZELResourceMgrTest, asksOnceForItsConfigurationWithItsMode)
+{
+    std::vector<std::pair<std::string, int>> asked;
+    ResourceFaults faults;
+    faults.onOpenProperty = [&](const std::string& path, int mode) -> FileProperty* {
+        asked.emplace_back(path, mode);
+        return nullptr;
+    };
+    log().expectError("[ZELResourceMgr] no configuration: /data/config/config_zelapp.cfg", 1,
+                      "ZELResourceMgr");
+    manager();
+    manager();
+    EXPECT_EQ(asked, (std::vector<std::pair<std::string, int>>{{realPath(config), 6302}}));
+}
+
+TEST_F(ZELResourceMgrTest, letsAnExceptionOfAnotherKindPassAndIsMadeAtTheNextUse)
+{
+    TAMFx::Common::Exception exception("of the foundation");
+    {
+        ResourceFaults faults;
+        faults.onOpenProperty = [&](const std::string&, int) -> FileProperty* { throw &exception; };
+        log().startHere();
+        EXPECT_THROW(ZELResourceMgr::getInstance(), TAMFx::Common::Exception*);
+        EXPECT_TRUE(log().lines().empty());
+    }
+    EXPECT_NE(manager().getFont("normal"), nullptr);
+    EXPECT_EQ(log().count("[D] [ZELResourceMgr::ZELResourceMgr] end"), 1);
 }
 
 TEST_F(ZELResourceMgrTest, finishesWithoutResources)
@@ -450,4 +488,9 @@ TEST_F(ZELResourceMgrTest, leavesWhatWasHandedOutReadableOverAChangeOfLanguage)
     EXPECT_NE(manager().getFont("pressed"), style);
     ZELResourceMgr::destroyInstance();
     EXPECT_EQ(*style->m_pColor, QColor(255, 0, 0));
+}
+
+TEST_F(ZELResourceMgrTest, signsWithItsOwnName)
+{
+    EXPECT_EQ(OpenManager().m_logger.m_strIdentity, "QTPANFx ZELResourceMgr ");
 }

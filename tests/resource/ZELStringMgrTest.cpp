@@ -314,3 +314,8 @@ TEST_F(ZELStringMgrTest, isDeletedThroughItsBase)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<ZELStringMgr>);
 }
+
+TEST_F(ZELStringMgrTest, signsWithItsOwnName)
+{
+    EXPECT_EQ(m_manager.m_logger.m_strIdentity, "QTPANFx ZELStringMgr   ");
+}

@@ -38,6 +38,7 @@ struct Call
     SystemCall call;
     std::string path;
     std::string secondPath;
+    std::string arguments;
 };
 
 struct Record
@@ -81,10 +82,11 @@ std::string pathOf(int descriptor)
 }
 
 // the error that the call is to fail with; nothing when it is to go through
-std::optional<int> noteAndJudge(SystemCall which, std::string path, std::string secondPath = "")
+std::optional<int> noteAndJudge(SystemCall which, std::string path, std::string secondPath,
+                                std::string arguments)
 {
     const std::lock_guard<std::mutex> lock(record().mutex);
-    record().calls.push_back({which, std::move(path), std::move(secondPath)});
+    record().calls.push_back({which, std::move(path), std::move(secondPath), std::move(arguments)});
     for (Fault& fault : record().faults) {
         if (!matches(record().calls.back(), fault.call, fault.pathEnding))
             continue;
@@ -102,11 +104,12 @@ std::optional<int> noteAndJudge(SystemCall which, std::string path, std::string 
 }
 
 // true when the call must fail; errno is set then, and kept as it was otherwise
-bool refused(SystemCall which, const char* path, const char* secondPath = nullptr)
+bool refused(SystemCall which, const char* path, const char* secondPath = nullptr,
+             const std::string& arguments = "")
 {
     const int before = errno;
     const std::optional<int> error =
-        noteAndJudge(which, path ? path : "", secondPath ? secondPath : "");
+        noteAndJudge(which, path ? path : "", secondPath ? secondPath : "", arguments);
     errno = error.value_or(before);
     return error.has_value();
 }
@@ -192,6 +195,17 @@ std::string SystemFaults::lastPath(SystemCall call, const std::string& pathEndin
     return last;
 }
 
+std::vector<std::string> SystemFaults::arguments(SystemCall call) const
+{
+    const std::lock_guard<std::mutex> lock(record().mutex);
+    std::vector<std::string> found;
+    for (const Call& made : record().calls) {
+        if (made.call == call)
+            found.push_back(made.arguments);
+    }
+    return found;
+}
+
 } // namespace PANFx::Testing
 
 // ---- the definitions that stand in front of the C library's
@@ -265,6 +279,25 @@ union SemaphoreArgument {
     int val;
     void* buffer;
 };
+
+std::string textOf(key_t key, int semaphores, int flags)
+{
+    char text[64];
+    snprintf(text, sizeof text, "%d %d 0%o", static_cast<int>(key), semaphores,
+             static_cast<unsigned>(flags));
+    return text;
+}
+
+std::string textOf(const struct sembuf* operations, size_t count)
+{
+    std::string text;
+    for (size_t i = 0; i < count; ++i) {
+        text += "{" + std::to_string(operations[i].sem_num) + "," +
+                std::to_string(operations[i].sem_op) + "," + std::to_string(operations[i].sem_flg) +
+                "}";
+    }
+    return text;
+}
 
 bool hasArgument(int command)
 {
@@ -375,7 +408,7 @@ ssize_t faults_write(int descriptor, const void* bytes, size_t size)
 int faults_semget(key_t key, int semaphores, int flags)
 {
     using Semget = int (*)(key_t, int, int);
-    if (watching && refused(SystemCall::Semget, ""))
+    if (watching && refused(SystemCall::Semget, "", nullptr, textOf(key, semaphores, flags)))
         return -1;
     return next<Semget>("semget")(key, semaphores, flags);
 }
@@ -383,7 +416,7 @@ int faults_semget(key_t key, int semaphores, int flags)
 int faults_semop(int id, struct sembuf* operations, size_t count)
 {
     using Semop = int (*)(int, struct sembuf*, size_t);
-    if (watching && refused(SystemCall::Semop, ""))
+    if (watching && refused(SystemCall::Semop, "", nullptr, textOf(operations, count)))
         return -1;
     return next<Semop>("semop")(id, operations, count);
 }

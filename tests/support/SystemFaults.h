@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace PANFx::Testing {
 
@@ -50,6 +51,12 @@ public:
 
     /** The last matching path that was handed in (the old one for a rename); "" for none. */
     std::string lastPath(SystemCall call, const std::string& pathEnding = "") const;
+
+    /**
+     * What each call was made with, in the order of the calls: "key semaphores flags" for semget,
+     * the flags in octal; "{semaphore,change,flags}" for each operation of semop; "" for others.
+     */
+    std::vector<std::string> arguments(SystemCall call) const;
 };
 
 } // namespace PANFx::Testing

@@ -171,7 +171,7 @@ protected:
                                            std::make_pair("pressed", QColor(Qt::red)),
                                            std::make_pair("dimmed", QColor(128, 128, 128)),
                                            std::make_pair("shadow", QColor(200, 200, 200))}) {
-            if (Pixels::count(image, colour) > 3)
+            if (Pixels::count(image, colour) > 0)
                 found += found.empty() ? name : std::string(" ") + name;
         }
         return found;

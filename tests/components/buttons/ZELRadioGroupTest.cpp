@@ -418,3 +418,13 @@ TEST_F(ZELRadioGroupTest, goesWithItsButtonsWhileAClickIsQueued)
     delete group;
     EXPECT_EQ(panel().takeTypes(), Types{});
 }
+
+TEST_F(ZELRadioGroupTest, withoutAParentAClickIsTold)
+{
+    Group group(nullptr, "grp", "ZELRadioGroup",
+                element("<grp><radiobutton>" + button("a", 0) + "</radiobutton></grp>"));
+    log().expectError("[event] grp has no parent", 1, "ZELRadioGroup");
+    Touch::tap(group.button("a"));
+    EventLoop::deliver();
+    EXPECT_EQ(group.m_strSelected, "a");
+}
