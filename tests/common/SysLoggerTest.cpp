@@ -250,9 +250,12 @@ bool ownPlaces()
     if (unshare(CLONE_NEWNS) == 0)
         return true;
     const uid_t user = getuid();
+    const gid_t group = getgid();
     if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
         return false;
     std::ofstream("/proc/self/uid_map") << "0 " << user << " 1";
+    std::ofstream("/proc/self/setgroups") << "deny"; // or the group is refused
+    std::ofstream("/proc/self/gid_map") << "0 " << group << " 1";
     return getuid() == 0;
 }
 

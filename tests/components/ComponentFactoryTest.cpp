@@ -151,6 +151,7 @@ public:
 
     static void install() { m_pInstance = new WatchedFactory; }
     static bool exists() { return m_pInstance != nullptr; }
+    static std::string identity() { return WatchedFactory().m_logger.m_strIdentity; }
 
     static int ended;
 
@@ -177,6 +178,14 @@ TEST_P(ComponentFactoryKeywordTest, makesItsClassAsAChildOfTheParent)
     EXPECT_EQ(component->m_strType, GetParam().type);
     EXPECT_EQ(component->m_strID, "thing");
     EXPECT_EQ(component->getQWidget()->parentWidget(), &panel());
+}
+
+TEST_P(ComponentFactoryKeywordTest, makesAClassWhoseFirstBaseIsTheComponent)
+{
+    ZELComponent* const component = make(GetParam().keyword);
+    ASSERT_NE(component, nullptr);
+    EXPECT_EQ(static_cast<void*>(component), dynamic_cast<void*>(component));
+    EXPECT_NE(static_cast<void*>(component->getQWidget()), static_cast<void*>(component));
 }
 
 TEST_P(ComponentFactoryKeywordTest, isLookedUpInItsOwnTableOnly)
@@ -314,4 +323,9 @@ TEST_F(ComponentFactoryTest, destroyingTheInstanceDeletesItOnceAndTheNextUseMake
     EXPECT_TRUE(WatchedFactory::exists());
     EXPECT_EQ(dynamic_cast<WatchedFactory*>(ComponentFactory::getInstance()), nullptr);
     EXPECT_NE(make("label"), nullptr);
+}
+
+TEST_F(ComponentFactoryTest, signsWithItsOwnName)
+{
+    EXPECT_EQ(WatchedFactory::identity(), "QTPANFx ComponentFactory"); // longer than the field
 }

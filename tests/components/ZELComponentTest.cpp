@@ -1,6 +1,7 @@
 #include "components/ZELComponent.h"
 
 #include "components/PlainComponent.h"
+#include "components/Slot.h"
 #include "components/pictures/ZELImageBox.h"
 #include "components/text/ZELLabel.h"
 #include "support/EventLoop.h"
@@ -90,6 +91,16 @@ TEST_F(ZELComponentTest, keepsItsIdAndItsType)
     ZELLabel label(&panel(), "ok", "SomeType", element("<ok/>"));
     EXPECT_EQ(label.m_strID, "ok");
     EXPECT_EQ(label.m_strType, "SomeType");
+}
+
+TEST_F(ZELComponentTest, hasItsVirtualOperationsInTheirFixedOrder)
+{
+    const std::intptr_t first = slot(&ZELComponent::showSubComponent);
+    EXPECT_EQ(first, slot(&ZELWindow::showSubComponent));
+    EXPECT_EQ(slot(&ZELComponent::showWindow), first + slotSize);
+    EXPECT_EQ(slot(&ZELComponent::hideWindow), first + 2 * slotSize);
+    EXPECT_EQ(slot(&ZELComponent::setLayout), first + 3 * slotSize);
+    EXPECT_EQ(slot(&ZELComponent::getQWidget), first + 4 * slotSize);
 }
 
 TEST_F(ZELComponentTest, isAWindowWithAnIdAndSubComponents)

@@ -118,7 +118,8 @@ TEST(ExceptionTest, OfTheConfigurationNamesTheFileAndTheSystemsReason)
         ConfigurationManager::GetManager()->openProperty(path.c_str(), 6302);
         FAIL() << "nothing thrown";
     } catch (ConfigurationException* exception) {
-        EXPECT_EQ(exception->GetMessage(), "cannot read " + path.substr(path.rfind('/') + 1) + ": Is a directory");
+        EXPECT_EQ(exception->GetMessage(),
+                  "cannot read " + path.substr(path.rfind('/') + 1) + ": Is a directory");
         EXPECT_EQ(exception->GetCode(), EISDIR);
     }
 }
