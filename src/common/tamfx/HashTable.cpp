@@ -63,7 +63,7 @@ void HashTable::ClearAll()
 {
     // The table is empty before the first object dies, whatever its destructor asks of the table.
     const std::vector<Entry> entries = std::move(m_entries);
-    Clear();
+    HashTable::Clear();
     for (const Entry& entry : entries)
         freeObject(entry);
 }
