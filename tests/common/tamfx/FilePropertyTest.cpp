@@ -1,3 +1,5 @@
+// Also covers PropertyLine, one line of the file, and FileAccess, which reads and replaces files.
+
 #include "common/tamfx/FileProperty.h"
 
 #include "common/tamfx/ConfigurationManager.h"

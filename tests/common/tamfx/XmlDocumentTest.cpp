@@ -1,3 +1,6 @@
+// Also covers what only a document uses: XmlTreeBuilder and XmlOutline. XmlSource, which tells
+// where a fault stands, is covered by XmlExceptionTest.
+
 #include "common/tamfx/XmlDocument.h"
 
 #include "common/tamfx/HeapCount.h"

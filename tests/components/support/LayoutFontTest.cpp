@@ -1,3 +1,5 @@
+// LayoutFont is not exported: it is tested through the components that use it.
+
 #include "components/text/ZELLabel.h"
 #include "resource/Font.h"
 #include "resource/ZELResourceMgr.h"

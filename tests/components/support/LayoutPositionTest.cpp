@@ -1,3 +1,5 @@
+// LayoutPosition is not exported: it is tested through the components that use it.
+
 #include "components/ZELComponent.h"
 #include "support/EventLoop.h"
 #include "support/PanelTest.h"

@@ -1,3 +1,5 @@
+// Painting is not exported: it is tested through the components that use it.
+
 #include "components/buttons/ZELImageButton.h"
 #include "resource/Font.h"
 #include "resource/ZELResourceMgr.h"
