@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QPalette>
 
+#include <algorithm>
+
 #include <utility>
 
 namespace PANFx::Windows {
@@ -173,15 +175,16 @@ void ZELMainFrame::removeAllChildWnd(std::string strID)
 {
     m_logger.WriteDebug("[%s] start", "removeAllChildWnd");
     ZELChildWindow* hiddenMain = nullptr;
-    // by index, and without the page that dies: its end may look up or even make another page
-    for (size_t i = 0; i < m_dqChildWindows.size(); ++i) {
-        ZELChildWindow* window = m_dqChildWindows[i];
+    // a copy is walked, and a page that dies is no longer listed: its end may look up other pages
+    const std::deque<ZELChildWindow*> windows = m_dqChildWindows;
+    for (ZELChildWindow* window : windows) {
         if (!window || window->m_strID == strID)
             continue;
         if (window->m_strID == m_strHiddenMainWindowID) {
             hiddenMain = window;
         } else {
-            m_dqChildWindows[i] = nullptr;
+            std::replace(m_dqChildWindows.begin(), m_dqChildWindows.end(), window,
+                         static_cast<ZELChildWindow*>(nullptr));
             deleteWindow(window);
         }
     }
