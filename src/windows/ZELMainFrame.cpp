@@ -11,7 +11,6 @@
 #include <QPalette>
 
 #include <algorithm>
-
 #include <utility>
 
 namespace PANFx::Windows {
