@@ -1,29 +1,16 @@
 #include "resource/SoundBase.h"
 
 #include "support/SoundProbe.h"
+#include "support/VirtualSlot.h"
 
 #include <cstdint>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
 #include <type_traits>
 
 using PANFx::Resource::SoundBase;
+using PANFx::Testing::slot;
 using PANFx::Testing::SoundProbe;
-
-namespace {
-
-// where a virtual operation stands among the others of its class, in bytes
-template <typename Operation>
-std::intptr_t slot(Operation operation)
-{
-    std::intptr_t place = 0;
-    static_assert(sizeof operation >= sizeof place);
-    std::memcpy(&place, &operation, sizeof place);
-    return place;
-}
-
-} // namespace
 
 TEST(SoundBase, isAbstractAndDeletedThroughItsBase)
 {
