@@ -1,11 +1,11 @@
 #include "components/ZELComponent.h"
 
 #include "components/PlainComponent.h"
-#include "components/Slot.h"
 #include "components/pictures/ZELImageBox.h"
 #include "components/text/ZELLabel.h"
 #include "support/EventLoop.h"
 #include "support/PanelTest.h"
+#include "support/VirtualSlot.h"
 
 #include <QPointer>
 

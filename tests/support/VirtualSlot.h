@@ -5,6 +5,9 @@
 
 namespace PANFx::Testing {
 
+/** The bytes from one place to the next among the virtual operations of a class. */
+constexpr std::intptr_t slotSize = sizeof(void*);
+
 /** Where a virtual operation stands among the others of its class, in bytes. */
 template <typename Operation>
 std::intptr_t slot(Operation operation)

@@ -1,6 +1,5 @@
 #include "windows/ZELChildWindow.h"
 
-#include "components/Slot.h"
 #include "components/ZELComponent.h"
 #include "components/pictures/ZELImageBox.h"
 #include "components/text/ZELLabel.h"
@@ -9,6 +8,7 @@
 #include "support/JournalPage.h"
 #include "support/Pixels.h"
 #include "support/Touch.h"
+#include "support/VirtualSlot.h"
 
 #include <QPalette>
 #include <QPointer>
