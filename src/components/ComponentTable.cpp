@@ -5,10 +5,18 @@
 #include "components/buttons/ZELImageButton.h"
 #include "components/buttons/ZELRadioButton.h"
 #include "components/buttons/ZELRadioGroup.h"
+#include "components/editors/ZELImageDateEdit.h"
+#include "components/editors/ZELImageEdit.h"
+#include "components/editors/ZELImageIPEdit.h"
+#include "components/editors/ZELImageNumberEdit.h"
+#include "components/editors/ZELImageTimeEdit.h"
+#include "components/pads/ZELKeyButton.h"
+#include "components/pads/ZELNumPad.h"
 #include "components/pictures/ZELChartImageBox.h"
 #include "components/pictures/ZELImageBox.h"
 #include "components/pictures/ZELPieImageBox.h"
 #include "components/text/ZELLabel.h"
+#include "components/text/ZELLineEdit.h"
 
 #include <utility>
 
@@ -30,11 +38,11 @@ const std::vector<ComponentEntry>& componentTable()
     static const std::vector<ComponentEntry> table = {
         {"label", "ZELLabel", make<ZELLabel>},
         {"imagebox", "ZELImageBox", make<ZELImageBox>},
-        {"imageEdit", "ZELImageEdit", nullptr},
-        {"imageIPEdit", "ZELImageIPEdit", nullptr},
-        {"imageDateEdit", "ZELImageDateEdit", nullptr},
-        {"imageNumberEdit", "ZELImageNumberEdit", nullptr},
-        {"imageTimeEdit", "ZELImageTimeEdit", nullptr},
+        {"imageEdit", "ZELImageEdit", make<ZELImageEdit>},
+        {"imageIPEdit", "ZELImageIPEdit", make<ZELImageIPEdit>},
+        {"imageDateEdit", "ZELImageDateEdit", make<ZELImageDateEdit>},
+        {"imageNumberEdit", "ZELImageNumberEdit", make<ZELImageNumberEdit>},
+        {"imageTimeEdit", "ZELImageTimeEdit", make<ZELImageTimeEdit>},
         {"chartimagebox", "ZELChartImageBox", make<ZELChartImageBox>},
         {"range", "ZELProgressRange", nullptr},
         {"editrange", "ZELEditRange", nullptr},
@@ -43,12 +51,12 @@ const std::vector<ComponentEntry>& componentTable()
         {"imageprogress", "ZELImageProgress", nullptr}, // shorter than the class name, as is
         {"roundprogress", "ZELRoundProgress", nullptr}, // the next: applications compare them
         {"pieimagebox", "ZELPieImageBox", make<ZELPieImageBox>},
-        {"numpad", "ZELNumPad", nullptr},
+        {"numpad", "ZELNumPad", make<ZELNumPad>},
         {"bubble", "ZELBubbleDialog", nullptr},
         {"radiogroup", "ZELRadioGroup", make<ZELRadioGroup>},
         {"textboard", "ZELTextBoard", nullptr},
         {"textedit", "ZELTextEdit", nullptr},
-        {"lineedit", "ZELLineEdit", nullptr},
+        {"lineedit", "ZELLineEdit", make<ZELLineEdit>},
     };
     return table;
 }
@@ -60,7 +68,7 @@ const std::vector<ComponentEntry>& buttonTable()
         {"radiobutton", "ZELRadioButton", make<ZELRadioButton>},
         {"checkbutton", "ZELCheckButton", make<ZELCheckButton>},
         {"iconcheckbutton", "ZELIconCheckButton", make<ZELIconCheckButton>},
-        {"keybutton", "ZELKeyButton", nullptr},
+        {"keybutton", "ZELKeyButton", make<ZELKeyButton>},
         {"tabbutton", "ZELTabButton", nullptr},
         {"headerbutton", "ZELHeaderButton", nullptr},
     };

@@ -8,18 +8,14 @@
 
 namespace PANFx::Components {
 
-namespace {
-
-int held(int value)
+int heldPixels(int nValue)
 {
-    return std::clamp(value, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    return std::clamp(nValue, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
-
-} // namespace
 
 QRect LayoutPosition::rect() const
 {
-    return {held(x), held(y), held(width), held(height)};
+    return {heldPixels(x), heldPixels(y), heldPixels(width), heldPixels(height)};
 }
 
 LayoutPosition readPosition(TAMFx::Common::Xml::Node* pNode, LayoutPosition defaults)

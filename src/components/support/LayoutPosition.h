@@ -23,6 +23,9 @@ struct LayoutPosition
     QRect rect() const;
 };
 
+/** A number of pixels, held at what Qt takes for a widget. */
+int heldPixels(int nValue);
+
 /** Reads "x", "y", "width" and "height" of an element; what is absent, or null, is as @p defaults.
  */
 LayoutPosition readPosition(TAMFx::Common::Xml::Node* pNode, LayoutPosition defaults);

@@ -4,9 +4,11 @@
 
 #include <QEvent>
 
+#include <memory>
 #include <string>
 
 class QWidget;
+class ZELEvent;
 
 namespace PANFx::Components {
 
@@ -15,6 +17,10 @@ namespace PANFx::Components {
  * posted, and an error line names the operation and the id.
  */
 void postToParent(QWidget* pSender, QEvent::Type type, const std::string& strID,
+                  Common::SysLogger& logger, const char* pszOperation);
+
+/** The same with an event that is made already. */
+void postToParent(QWidget* pSender, std::unique_ptr<ZELEvent> event, const std::string& strID,
                   Common::SysLogger& logger, const char* pszOperation);
 
 } // namespace PANFx::Components

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "components/editors/ZELImageEdit.h"
+
+#include <string>
+
+namespace PANFx::Components {
+
+/**
+ * A field for a number, typed character by character and kept in a range. Without decimal places
+ * it takes integers and a digit too many makes it the maximum; with decimal places a digit too
+ * many becomes a decimal. The minimum is applied when the field loses the focus.
+ *
+ * Layout: that of ZELImageEdit. "dimstyle" is the style of the text while dimmed.
+ *
+ * An integer field takes no key before setRange() has been called.
+ */
+class QTPANFX_EXPORT ZELImageNumberEdit : public ZELImageEdit
+{
+public:
+    ZELImageNumberEdit(QWidget* pParent, std::string strID, std::string strType,
+                       TAMFx::Common::Xml::Node* pLayout);
+    ~ZELImageNumberEdit() override;
+
+    void showWindow() override;
+    void hideWindow() override;
+    QWidget* getQWidget() override;
+
+    void clear() override;
+
+    /** The number as it stands, ASCII, with a decimal point in every locale. */
+    std::string text() override;
+
+    /**
+     * Sets and formats a number; one outside the range changes nothing. Null and "" clear the
+     * field. "." and "-" stand as the beginning of a number.
+     */
+    void setText(const char* pszText) override;
+
+    /** The same, but "" is the number 0. */
+    void setText(std::string strText) override;
+
+    /** Types the characters; what doesn't fit is skipped. */
+    void addText(const char* pszText) override;
+    void addText(std::string strText) override;
+
+    void backspace() override;
+
+    /** The bounds; neither their order nor the present number is checked. */
+    void setRange(int nMin, int nMax);
+
+    /** 0 is for integers. The present number is not formatted anew. */
+    void setDecimalplace(int nDecimalPlace);
+    int getDecimalplace();
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+
+    /** Raises the number to the minimum and formats it. */
+    void focusOutEvent(QFocusEvent* pEvent) override;
+
+    /** Type one character. @return whether the field is to be repainted */
+    bool processIntText(char c);
+    bool processDoubleText(char c);
+
+    /** Appends a digit and holds the number in the range. */
+    void checkRange(char c);
+
+    bool processText(std::string strText);
+
+    std::string m_strNumber;
+    int m_nDecimalPlace = 0;
+    double m_dMax = 0.0;
+    double m_dMin = 0.0;
+    bool m_bRange = false; ///< whether setRange() has been called
+    Common::SysLogger m_logger{"QTPANFx", "ZELImageNumberEdit"};
+
+private:
+    void typeZero();
+    void setNumber(double dValue, int nPlaces);
+};
+
+} // namespace PANFx::Components

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "components/buttons/ZELImageButton.h"
+
+#include <string>
+
+namespace PANFx::Components {
+
+/**
+ * A key of the text keyboard: an image button that carries what it types, for two languages, each
+ * plain and shifted. Codes are UTF-16 values, indexes are places in the tables of the Hangul
+ * composer; -1 stands for none. The page reads them when the key's click arrives.
+ *
+ * Layout: attributes "title" (the face, taken as it stands; without it the others are left out),
+ * "code" and "code2" (hexadecimal, without prefix), "style", "pressstyle", "animation",
+ * "longpress"; child "lang2" with "title", "title2", "code", "code2" and "index", "index2"
+ * (decimal); children "image" and "position".
+ *
+ * Posts what an image button posts.
+ */
+class QTPANFX_EXPORT ZELKeyButton : public ZELImageButton
+{
+public:
+    ZELKeyButton(QWidget* pParent, std::string strID, std::string strType,
+                 TAMFx::Common::Xml::Node* pLayout);
+    ~ZELKeyButton() override;
+
+    void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
+    QWidget* getQWidget() override;
+
+    /**
+     * What the key types.
+     * @param nLang 1 the language of the element, 2 that of "lang2", which falls back to 1
+     * @param bShift falls back to the plain code where there is no shifted one
+     */
+    int getKeyCode(short nLang, bool bShift);
+
+    /** The index of the second language, shifted where there is a shifted code. */
+    int getKeyIndex(bool bShift);
+
+    /** Shows the shifted or the plain face; a key without a shifted code keeps its face. */
+    void setShiftMode(short nLang, bool bShift);
+
+    /** Shows the plain face of a language, 1 or 2; other numbers change nothing. */
+    void changeKeyTitle(short nLang);
+
+    /** The number at the start of a text; -1 when there is none. */
+    int stringToInt10(std::string strNumber);
+
+    /** The same for hexadecimal digits. */
+    int stringToInt16(std::string strNumber);
+
+    /** The low 16 bits of the same. */
+    unsigned short stringToQChar(std::string strNumber);
+
+protected:
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseReleaseEvent(QMouseEvent* pEvent) override;
+
+    int m_nCode = -1;
+    int m_nCode2 = -1;
+    std::string m_strLang2Title; ///< UTF-8
+    int m_nLang2Code = -1;       ///< -1 also keeps the key out of the second language
+    int m_nLang2Index = -1;
+    std::string m_strLang2Title2;
+    int m_nLang2Code2 = -1;
+    int m_nLang2Index2 = -1;
+    Common::SysLogger m_logger{"QTPANFx", "ZELKeyButton"};
+
+private:
+    void reset();
+    std::string readFace(TAMFx::Common::Xml::Node* pLayout);
+    void readSecondLanguage(TAMFx::Common::Xml::Node* pLang2);
+    bool isInSecondLanguage(short nLang) const;
+};
+
+} // namespace PANFx::Components
