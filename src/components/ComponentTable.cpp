@@ -10,6 +10,14 @@
 #include "components/editors/ZELImageIPEdit.h"
 #include "components/editors/ZELImageNumberEdit.h"
 #include "components/editors/ZELImageTimeEdit.h"
+#include "components/lists/ZELComboList.h"
+#include "components/lists/ZELHeaderButton.h"
+#include "components/lists/ZELList.h"
+#include "components/lists/ZELListHeader.h"
+#include "components/lists/ZELListItem.h"
+#include "components/lists/ZELListScroll.h"
+#include "components/lists/ZELTextBoard.h"
+#include "components/lists/ZELUnitList.h"
 #include "components/pads/ZELKeyButton.h"
 #include "components/pads/ZELNumPad.h"
 #include "components/pictures/ZELChartImageBox.h"
@@ -54,7 +62,7 @@ const std::vector<ComponentEntry>& componentTable()
         {"numpad", "ZELNumPad", make<ZELNumPad>},
         {"bubble", "ZELBubbleDialog", nullptr},
         {"radiogroup", "ZELRadioGroup", make<ZELRadioGroup>},
-        {"textboard", "ZELTextBoard", nullptr},
+        {"textboard", "ZELTextBoard", make<ZELTextBoard>},
         {"textedit", "ZELTextEdit", nullptr},
         {"lineedit", "ZELLineEdit", make<ZELLineEdit>},
     };
@@ -70,7 +78,7 @@ const std::vector<ComponentEntry>& buttonTable()
         {"iconcheckbutton", "ZELIconCheckButton", make<ZELIconCheckButton>},
         {"keybutton", "ZELKeyButton", make<ZELKeyButton>},
         {"tabbutton", "ZELTabButton", nullptr},
-        {"headerbutton", "ZELHeaderButton", nullptr},
+        {"headerbutton", "ZELHeaderButton", make<ZELHeaderButton>},
     };
     return table;
 }
@@ -78,12 +86,12 @@ const std::vector<ComponentEntry>& buttonTable()
 const std::vector<ComponentEntry>& listTable()
 {
     static const std::vector<ComponentEntry> table = {
-        {"list", "ZELList", nullptr},
-        {"listscroll", "ZELListScroll", nullptr},
-        {"listheader", "ZELListHeader", nullptr},
-        {"listitem", "ZELListItem", nullptr},
-        {"listUnit", "ZELUnitList", nullptr},
-        {"listCombo", "ZELComboList", nullptr},
+        {"list", "ZELList", make<ZELList>},
+        {"listscroll", "ZELListScroll", make<ZELListScroll>},
+        {"listheader", "ZELListHeader", make<ZELListHeader>},
+        {"listitem", "ZELListItem", make<ZELListItem>},
+        {"listUnit", "ZELUnitList", make<ZELUnitList>},
+        {"listCombo", "ZELComboList", make<ZELComboList>},
     };
     return table;
 }
