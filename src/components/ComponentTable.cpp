@@ -5,11 +5,19 @@
 #include "components/buttons/ZELImageButton.h"
 #include "components/buttons/ZELRadioButton.h"
 #include "components/buttons/ZELRadioGroup.h"
+#include "components/containers/ZELBubbleDialog.h"
+#include "components/containers/ZELTab.h"
+#include "components/containers/ZELTabButton.h"
+#include "components/containers/ZELTabPage.h"
 #include "components/editors/ZELImageDateEdit.h"
 #include "components/editors/ZELImageEdit.h"
 #include "components/editors/ZELImageIPEdit.h"
 #include "components/editors/ZELImageNumberEdit.h"
 #include "components/editors/ZELImageTimeEdit.h"
+#include "components/gauges/ZELEditRange.h"
+#include "components/gauges/ZELImageProgressBar.h"
+#include "components/gauges/ZELProgressRange.h"
+#include "components/gauges/ZELRoundProgressBar.h"
 #include "components/lists/ZELComboList.h"
 #include "components/lists/ZELHeaderButton.h"
 #include "components/lists/ZELList.h"
@@ -25,6 +33,7 @@
 #include "components/pictures/ZELPieImageBox.h"
 #include "components/text/ZELLabel.h"
 #include "components/text/ZELLineEdit.h"
+#include "components/text/ZELTextEdit.h"
 
 #include <utility>
 
@@ -52,18 +61,20 @@ const std::vector<ComponentEntry>& componentTable()
         {"imageNumberEdit", "ZELImageNumberEdit", make<ZELImageNumberEdit>},
         {"imageTimeEdit", "ZELImageTimeEdit", make<ZELImageTimeEdit>},
         {"chartimagebox", "ZELChartImageBox", make<ZELChartImageBox>},
-        {"range", "ZELProgressRange", nullptr},
-        {"editrange", "ZELEditRange", nullptr},
-        {"tab", "ZELTab", nullptr},
-        {"tabpage", "ZELTabPage", nullptr},
-        {"imageprogress", "ZELImageProgress", nullptr}, // shorter than the class name, as is
-        {"roundprogress", "ZELRoundProgress", nullptr}, // the next: applications compare them
+        {"range", "ZELProgressRange", make<ZELProgressRange>},
+        {"editrange", "ZELEditRange", make<ZELEditRange>},
+        {"tab", "ZELTab", make<ZELTab>},
+        {"tabpage", "ZELTabPage", make<ZELTabPage>},
+        {"imageprogress", "ZELImageProgress",
+         make<ZELImageProgressBar>}, // shorter than the class name, as is
+        {"roundprogress", "ZELRoundProgress",
+         make<ZELRoundProgressBar>}, // the next: applications compare them
         {"pieimagebox", "ZELPieImageBox", make<ZELPieImageBox>},
         {"numpad", "ZELNumPad", make<ZELNumPad>},
-        {"bubble", "ZELBubbleDialog", nullptr},
+        {"bubble", "ZELBubbleDialog", make<ZELBubbleDialog>},
         {"radiogroup", "ZELRadioGroup", make<ZELRadioGroup>},
         {"textboard", "ZELTextBoard", make<ZELTextBoard>},
-        {"textedit", "ZELTextEdit", nullptr},
+        {"textedit", "ZELTextEdit", make<ZELTextEdit>},
         {"lineedit", "ZELLineEdit", make<ZELLineEdit>},
     };
     return table;
@@ -77,7 +88,7 @@ const std::vector<ComponentEntry>& buttonTable()
         {"checkbutton", "ZELCheckButton", make<ZELCheckButton>},
         {"iconcheckbutton", "ZELIconCheckButton", make<ZELIconCheckButton>},
         {"keybutton", "ZELKeyButton", make<ZELKeyButton>},
-        {"tabbutton", "ZELTabButton", nullptr},
+        {"tabbutton", "ZELTabButton", make<ZELTabButton>},
         {"headerbutton", "ZELHeaderButton", make<ZELHeaderButton>},
     };
     return table;

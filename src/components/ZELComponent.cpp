@@ -6,19 +6,40 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <unordered_set>
 #include <utility>
 
 namespace PANFx::Components {
 
 using TAMFx::Common::Xml::Node;
 
+namespace {
+
+// Every component there is. Never freed: a component may outlive the static objects.
+std::unordered_set<const ZELComponent*>& livingComponents()
+{
+    static auto* const components = new std::unordered_set<const ZELComponent*>;
+    return *components;
+}
+
+} // namespace
+
 ZELComponent::ZELComponent(std::string strID, std::string strType)
     : ZELWindow(std::move(strID))
     , m_strType(std::move(strType))
 {
+    livingComponents().insert(this);
 }
 
-ZELComponent::~ZELComponent() = default;
+ZELComponent::~ZELComponent()
+{
+    livingComponents().erase(this);
+}
+
+bool ZELComponent::isAlive(const ZELComponent* pComponent)
+{
+    return livingComponents().count(pComponent) != 0;
+}
 
 void ZELComponent::createSubComponent(Node* pLayout)
 {
@@ -36,16 +57,20 @@ void ZELComponent::createSubComponent(Node* pLayout)
 
 void ZELComponent::showSubComponent()
 {
-    for (ZELComponent* component : m_dqSubComponents)
-        component->showWindow();
+    for (ZELComponent* component : m_dqSubComponents) {
+        if (isAlive(component))
+            component->showWindow();
+    }
 }
 
 void ZELComponent::setLayout(Node*) {}
 
 void ZELComponent::hideSubComponent()
 {
-    for (ZELComponent* component : m_dqSubComponents)
-        component->hideWindow();
+    for (ZELComponent* component : m_dqSubComponents) {
+        if (isAlive(component))
+            component->hideWindow();
+    }
 }
 
 ZELComponent* ZELComponent::getSubComponent(int nIndex)
@@ -57,15 +82,18 @@ ZELComponent* ZELComponent::getSubComponent(int nIndex)
 
 ZELComponent* ZELComponent::getSubComponent(std::string strID)
 {
-    const auto found =
-        std::find_if(m_dqSubComponents.begin(), m_dqSubComponents.end(),
-                     [&](const ZELComponent* component) { return component->m_strID == strID; });
+    const auto found = std::find_if(m_dqSubComponents.begin(), m_dqSubComponents.end(),
+                                    [&](const ZELComponent* component) {
+                                        return isAlive(component) && component->m_strID == strID;
+                                    });
     return found == m_dqSubComponents.end() ? nullptr : *found;
 }
 
 ZELComponent* ZELComponent::findByWidget(const QObject* pWidget)
 {
     for (ZELComponent* component : m_dqSubComponents) {
+        if (!isAlive(component))
+            continue;
         if (component->getQWidget() == pWidget)
             return component;
         if (ZELComponent* inner = component->findByWidget(pWidget))

@@ -3,8 +3,8 @@
 #include "common/Export.h"
 #include "common/SysLogger.h"
 #include "common/ZELWindow.h"
+#include "components/ComponentDeque.h"
 
-#include <deque>
 #include <string>
 
 class QObject;
@@ -32,7 +32,7 @@ public:
     /** Builds sub-components from an element; a failed one is logged and left out. */
     void createSubComponent(TAMFx::Common::Xml::Node* pLayout) override;
 
-    /** Calls showWindow() on each sub-component, in the order of creation. */
+    /** Calls showWindow() on each sub-component that is still there, in the order of creation. */
     void showSubComponent() override;
 
     virtual void showWindow() = 0;
@@ -44,7 +44,7 @@ public:
     /** The component's widget. */
     virtual QWidget* getQWidget() = 0;
 
-    /** Calls hideWindow() on each sub-component, in the order of creation. */
+    /** Calls hideWindow() on each sub-component that is still there, in the order of creation. */
     void hideSubComponent();
 
     /** @throw std::out_of_range when there is no sub-component at @p nIndex */
@@ -67,8 +67,13 @@ public:
      */
     void deleteSubComponent(std::string strID);
 
-    std::string m_strType;                       ///< kind of the component
-    std::deque<ZELComponent*> m_dqSubComponents; ///< in order of creation, not owned
+    /** Whether there still is a component at that address, which is only compared. */
+    static bool isAlive(const ZELComponent* pComponent);
+
+    std::string m_strType; ///< kind of the component
+
+    /** In order of creation, not owned; one that an application deletes leaves its entry behind. */
+    ComponentDeque m_dqSubComponents;
 
 protected:
     Common::SysLogger m_logger{"QTPANFx", "ZELWindow"}; ///< not the class's name, and stays so

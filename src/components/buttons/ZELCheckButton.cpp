@@ -25,7 +25,7 @@ void ZELCheckButton::mouseReleaseEvent(QMouseEvent* pEvent)
 
 void ZELCheckButton::paintEvent(QPaintEvent*)
 {
-    paintCheckable(m_bChecked);
+    paintCheckable(m_bChecked, m_logger);
 }
 
 } // namespace PANFx::Components

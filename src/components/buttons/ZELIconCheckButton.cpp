@@ -129,7 +129,7 @@ void ZELIconCheckButton::setIconImage(std::string strName)
 void ZELIconCheckButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QPixmap* picture = m_bChecked ? checkedImage() : m_pCurImage;
+    const QPixmap* picture = m_bChecked ? checkedImage(m_logger) : m_pCurImage;
     drawPicture(painter, picture, rect());
     // the icon is scaled smoothly over a picture only
     painter.setRenderHint(QPainter::SmoothPixmapTransform, m_bChecked || hasPicture(picture));

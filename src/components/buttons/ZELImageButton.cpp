@@ -198,14 +198,11 @@ QPixmap* ZELImageButton::downImage()
     return m_pDownImage;
 }
 
-QPixmap* ZELImageButton::checkedImage()
+QPixmap* ZELImageButton::checkedImage(Common::SysLogger& logger)
 {
     QPixmap* down = downImage();
-    if (!hasPicture(down) && !m_bNoDownLogged) {
-        m_logger.WriteError("[%s] %s is checked and has no down image", "paintEvent",
-                            m_strID.c_str());
-        m_bNoDownLogged = true;
-    }
+    if (!hasPicture(down))
+        m_noDownImage.error(logger, "paintEvent", m_strID, "is checked and has no down image");
     return down;
 }
 
@@ -213,19 +210,29 @@ void ZELImageButton::mousePressEvent(QMouseEvent*)
 {
     if (m_bDimMode)
         return;
+    press();
+    m_logger.WriteDebug("[%s] id : %s (%d)==> mousePressEvent!!!!", "mousePressEvent",
+                        m_strID.c_str(), m_bLongPress);
+    hold();
+}
+
+void ZELImageButton::press()
+{
     m_bPressed = true;
     m_pCurImage = downImage();
     update();
     if (m_bSoundMode)
         SoundFactory::getInstance()->playTouchSound();
     animationPressed();
-    m_logger.WriteDebug("[%s] id : %s (%d)==> mousePressEvent!!!!", "mousePressEvent",
-                        m_strID.c_str(), m_bLongPress);
-    if (m_bLongPress) {
-        m_nLongPressCount = 0;
-        m_bLongPressed = false;
-        m_pTimer->start(firstTick);
-    }
+}
+
+void ZELImageButton::hold()
+{
+    if (!m_bLongPress)
+        return;
+    m_nLongPressCount = 0;
+    m_bLongPressed = false;
+    m_pTimer->start(firstTick);
 }
 
 // Where the pointer is doesn't matter: the release alone makes the click.
@@ -319,10 +326,10 @@ void ZELImageButton::paintEvent(QPaintEvent*)
     paintTitle(painter, m_bPressed, m_bElided);
 }
 
-void ZELImageButton::paintCheckable(bool bChecked)
+void ZELImageButton::paintCheckable(bool bChecked, Common::SysLogger& logger)
 {
     QPainter painter(this);
-    const QPixmap* picture = bChecked ? checkedImage() : m_pCurImage;
+    const QPixmap* picture = bChecked ? checkedImage(logger) : m_pCurImage;
     drawPicture(painter, picture, rectOrWhole(m_imageRect, *this));
     paintTitle(painter, m_bPressed || bChecked, false);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "components/ZELComponent.h"
+#include "components/support/TellOnce.h"
 
 #include <QPropertyAnimation>
 #include <QRect>
@@ -78,6 +79,12 @@ protected:
     void paintEvent(QPaintEvent* pEvent) override;
     bool event(QEvent* pEvent) override;
 
+    /** What a press does first: the pressed picture, the sound and the animation. */
+    void press();
+
+    /** What a press does last: the wait for a long press begins, where it is on. */
+    void hold();
+
     void onLongPressed();
     void animationPressed();
     void animationReleased();
@@ -85,11 +92,14 @@ protected:
     /** The down picture, loaded now when it isn't yet; null where there is none. */
     QPixmap* downImage();
 
-    /** downImage() for a checked button; where there is none, one error line per button. */
-    QPixmap* checkedImage();
+    /** downImage() for a checked button; where there is none, one error line through @p logger. */
+    QPixmap* checkedImage(Common::SysLogger& logger);
 
-    /** Paints a button that has a checked state: the down picture and press style while checked. */
-    void paintCheckable(bool bChecked);
+    /**
+     * Paints a button that has a checked state: the down picture and press style while checked.
+     * @param logger the concrete class's own, for what is amiss
+     */
+    void paintCheckable(bool bChecked, Common::SysLogger& logger);
 
     std::string m_strDownImage;
     std::string m_strUpImage;
@@ -125,7 +135,7 @@ private:
     void animateTo(int nX, int nY, double dAmplitude);
     void paintTitle(QPainter& painter, bool bPressStyle, bool bElided);
 
-    bool m_bNoDownLogged = false;
+    TellOnce m_noDownImage;
 };
 
 } // namespace PANFx::Components

@@ -1,5 +1,8 @@
 #include "components/buttons/ZELRadioButton.h"
 
+#include "components/support/PostToParent.h"
+#include "resource/SoundFactory.h"
+
 #include <utility>
 
 namespace PANFx::Components {
@@ -32,9 +35,19 @@ void ZELRadioButton::mouseReleaseEvent(QMouseEvent* pEvent)
     ZELImageButton::mouseReleaseEvent(pEvent);
 }
 
+void ZELRadioButton::reportPress(QEvent::Type type, Common::SysLogger& logger)
+{
+    m_bPressed = false;
+    m_pCurImage = m_pUpImage;
+    update();
+    animationReleased();
+    Resource::SoundFactory::getInstance()->playTouchSound();
+    postToParent(this, type, m_strID, logger, "mousePressEvent");
+}
+
 void ZELRadioButton::paintEvent(QPaintEvent*)
 {
-    paintCheckable(m_bChecked);
+    paintCheckable(m_bChecked, m_logger);
 }
 
 } // namespace PANFx::Components

@@ -35,6 +35,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
 
+    /**
+     * What a button does that reports at the press: shows no pressed picture, always sounds, and
+     * posts to its parent.
+     * @param logger the concrete class's own
+     */
+    void reportPress(QEvent::Type type, Common::SysLogger& logger);
+
     Common::SysLogger m_logger{"QTPANFx", "ZELRadioButton"};
 };
 

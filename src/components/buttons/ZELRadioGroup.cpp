@@ -8,6 +8,7 @@
 #include "events/ZELEvent.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <utility>
 
@@ -15,16 +16,21 @@ namespace PANFx::Components {
 
 using TAMFx::Common::Xml::Node;
 
-// A button as an entry of the table.
+// A button as an entry of the table, which an application may have deleted since.
 class ZELRadioGroup::Entry : public TAMFx::Data::Object
 {
 public:
     explicit Entry(ZELRadioButton* pButton)
         : m_pButton(pButton)
+        , m_alive(pButton)
     {
     }
 
+    ZELRadioButton* button() const { return m_alive ? m_pButton : nullptr; }
+
+private:
     ZELRadioButton* const m_pButton;
+    const QPointer<QWidget> m_alive;
 };
 
 ZELRadioGroup::ZELRadioGroup(QWidget* pParent, std::string strID, std::string strType,
@@ -77,7 +83,7 @@ void ZELRadioGroup::addButton()
     m_entries.clear();
     for (int i = 0; i < getComponentCount(); ++i) {
         ZELComponent* component = getSubComponent(i);
-        if (component->m_strType != "ZELRadioButton")
+        if (!isAlive(component) || component->m_strType != "ZELRadioButton")
             continue;
         m_entries.push_back(std::make_unique<Entry>(static_cast<ZELRadioButton*>(component)));
         m_buttons.AddObj(component->m_strID.c_str(), m_entries.back().get());
@@ -87,13 +93,13 @@ void ZELRadioGroup::addButton()
 ZELRadioButton* ZELRadioGroup::buttonAt(int nIndex)
 {
     auto* entry = static_cast<Entry*>(m_buttons.getValue(nIndex));
-    return entry ? entry->m_pButton : nullptr;
+    return entry ? entry->button() : nullptr;
 }
 
 ZELRadioButton* ZELRadioGroup::getSelectedButton()
 {
     auto* entry = static_cast<Entry*>(m_buttons.getValue(m_strSelected.c_str()));
-    return entry ? entry->m_pButton : nullptr;
+    return entry ? entry->button() : nullptr;
 }
 
 void ZELRadioGroup::setButtonSelect(ZELRadioButton* pButton)

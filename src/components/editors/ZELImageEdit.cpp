@@ -173,13 +173,13 @@ std::string ZELImageEdit::text()
 void ZELImageEdit::setText(const char* pszText)
 {
     m_strText = pszText ? pszText : "";
-    changed();
+    textTaken();
 }
 
 void ZELImageEdit::setText(std::string strText)
 {
     m_strText = std::move(strText);
-    changed();
+    textTaken();
 }
 
 void ZELImageEdit::addText(const char* pszText)
@@ -187,13 +187,13 @@ void ZELImageEdit::addText(const char* pszText)
     if (!pszText)
         return;
     m_strText += pszText;
-    changed();
+    textTaken();
 }
 
 void ZELImageEdit::addText(std::string strText)
 {
     m_strText += strText;
-    changed();
+    textTaken();
 }
 
 void ZELImageEdit::backspace()
@@ -204,11 +204,17 @@ void ZELImageEdit::backspace()
     changed();
 }
 
-// The end of what is being typed stays in sight.
-void ZELImageEdit::changed()
+// Only what is set or added is cut: a lower limit leaves the text that is there.
+void ZELImageEdit::textTaken()
 {
     if (m_strText.size() > m_nMaxLength)
         m_strText.resize(m_nMaxLength);
+    changed();
+}
+
+// The end of what is being typed stays in sight.
+void ZELImageEdit::changed()
+{
     if (m_nElideType == Elision::touchZones)
         m_nElideMode = Qt::ElideLeft;
     update();
@@ -295,8 +301,11 @@ void ZELImageEdit::paintEvent(QPaintEvent*)
     if (!hasFrame())
         return;
     QPainter painter(this);
-    const FieldText field{QString::fromUtf8(text().c_str()),
-                          QString::fromUtf8(m_strPlaceholder.c_str()),
+    const std::string value = text();
+    // a value may show nothing, as a byte order mark does, and yet be one
+    const std::string placeholder = value.empty() ? m_strPlaceholder : std::string();
+    const FieldText field{QString::fromUtf8(value.c_str()),
+                          QString::fromUtf8(placeholder.c_str()),
                           m_nEchoMode,
                           {m_nElideMode, m_nElideType}};
     paintFrame(painter);

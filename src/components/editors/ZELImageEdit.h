@@ -152,6 +152,7 @@ protected:
     int m_nElideType = Elision::none; ///< what was asked for
 
 private:
+    void textTaken();
     void changed();
     void showTouchedEnd(int x);
 

@@ -5,9 +5,8 @@
 #include "components/support/LayoutPosition.h"
 #include "components/support/Painting.h"
 #include "components/support/Picture.h"
-#include "components/support/PostToParent.h"
 #include "events/EventNumbers.h"
-#include "resource/SoundFactory.h"
+#include "resource/ParseHelper.h"
 
 #include <QPainter>
 
@@ -56,12 +55,7 @@ void ZELHeaderButton::readIcon(Node* pIcon)
     m_pDownIcon = picture("down");
     if (!m_pDownIcon)
         m_logger.WriteDebug("[%s] Down Icon is NULL", "setLayout");
-    const LayoutPosition place =
-        readPosition(pIcon, {m_nIconX, m_nIconY, m_nIconWidth, m_nIconHeight});
-    m_nIconX = place.x;
-    m_nIconY = place.y;
-    m_nIconWidth = place.width;
-    m_nIconHeight = place.height;
+    ParseHelper::getPosition(pIcon, m_nIconX, m_nIconY, m_nIconWidth, m_nIconHeight);
 }
 
 void ZELHeaderButton::setCheck(int nCheck, bool bDirection)
@@ -79,13 +73,7 @@ void ZELHeaderButton::mousePressEvent(QMouseEvent*)
         m_bChecked = true;
     if (m_bDimMode)
         return;
-    m_bPressed = false;
-    m_pCurImage = m_pUpImage;
-    update();
-    animationReleased();
-    Resource::SoundFactory::getInstance()->playTouchSound();
-    postToParent(this, m_bDirection ? EVENT_HEADER_DOWN : EVENT_HEADER_UP, m_strID, m_logger,
-                 "mousePressEvent");
+    reportPress(m_bDirection ? EVENT_HEADER_DOWN : EVENT_HEADER_UP, m_logger);
 }
 
 void ZELHeaderButton::mouseReleaseEvent(QMouseEvent*) {}

@@ -16,6 +16,7 @@
 #include "events/EventNumbers.h"
 #include "events/ZELListEvent.h"
 #include "events/ZELRangeEvent.h"
+#include "resource/ParseHelper.h"
 
 #include <QPainter>
 
@@ -102,11 +103,7 @@ void ZELList::readBackground(Node* pImage)
     m_pBGPixmap = findPicture(file ? file->getValue() : "");
     if (!m_pBGPixmap)
         m_logger.WriteDebug("[%s]  no BackgroundImage File", "setLayout");
-    const LayoutPosition place = readPosition(pImage, {m_nBGX, m_nBGY, m_nBGWidth, m_nBGHeight});
-    m_nBGX = place.x;
-    m_nBGY = place.y;
-    m_nBGWidth = place.width;
-    m_nBGHeight = place.height;
+    ParseHelper::getPosition(pImage, m_nBGX, m_nBGY, m_nBGWidth, m_nBGHeight);
 }
 
 int ZELList::getNowPage()

@@ -110,8 +110,8 @@ void ZELNumPad::readBackground(Node* pLayout)
         Attribute* attribute = background->getAttributeByName(name);
         return attribute ? heldPixels(Common::toInt(attribute->getValue())) : missing;
     };
-    m_nBaseX = read("x", 0);
-    m_nBaseY = read("y", 0);
+    m_nBaseX = read("x", m_nBaseX);
+    m_nBaseY = read("y", m_nBaseY);
     m_nBaseWidth = read("width", width() - m_nBaseX);
     m_nBaseHeight = read("height", height() - m_nBaseY);
 }

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "components/gauges/ZELProgressBar.h"
+#include "components/support/TellOnce.h"
+
+#include <string>
+
+class QPixmap;
+
+namespace PANFx::Resource {
+class Font;
+}
+
+namespace PANFx::Components {
+
+/**
+ * A horizontal bar of four pictures: a background, and a fill of a left cap, a stretched middle
+ * and a right cap. Prints the number over it where there is a style.
+ *
+ * Layout: attribute "style"; children "image" with "bg", "start", "mid" and "end", all or none,
+ * "position", and "offset" with "x" (left and right inset of the fill in pixels) and "y" (its
+ * top), 0 without the element and 1 where the element leaves one out.
+ */
+class QTPANFX_EXPORT ZELImageProgressBar : public ZELProgressBar
+{
+public:
+    ZELImageProgressBar(QWidget* pParent, std::string strID, std::string strType,
+                        TAMFx::Common::Xml::Node* pLayout);
+    ~ZELImageProgressBar() override;
+
+    void showWindow() override;
+    void hideWindow() override;
+    void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
+    QWidget* getQWidget() override;
+
+    /** Pictures by file name; what is missing becomes null. @return whether all four exist */
+    bool setImage(std::string strBackground, std::string strStart, std::string strMid,
+                  std::string strEnd);
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+
+    QPixmap* m_pBGPixmap = nullptr;
+    QPixmap* m_pStartPixmap = nullptr;
+    QPixmap* m_pMidPixmap = nullptr;
+    QPixmap* m_pEndPixmap = nullptr;
+    int m_nOffsetX = 0; ///< inset of the fill at the left and at the right
+    int m_nOffsetY = 0;
+    Resource::Font* m_pFont = nullptr; ///< null for no text
+    Common::SysLogger m_logger{"QTPANFx", "ZELImageProgressBar"};
+
+private:
+    void readOffset(TAMFx::Common::Xml::Node* pOffset);
+    void paintFill(QPainter& painter);
+
+    TellOnce m_noFill;
+};
+
+} // namespace PANFx::Components

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "components/gauges/ZELRange.h"
+
+#include <string>
+
+namespace PANFx::Components {
+
+/**
+ * A range that shows its step as a column or a row of thumbs over a background, like a level
+ * meter. Steps count from 0 to "max", which is 5 by default.
+ *
+ * Layout: attributes "type" ('V', the default, for a column that grows upward, any other letter
+ * for a row that grows to the right), "offset" (pixels between thumbs), "max"; children
+ * "position", "bgimg" and "thumbimg" ("file" and place; the "y" of a column's thumb is the bottom
+ * of the first), "upbtn" and "downbtn" (place and the pictures "up", "down", "dim"). All of the
+ * children must be there.
+ */
+class QTPANFX_EXPORT ZELProgressRange : public ZELRange
+{
+public:
+    ZELProgressRange(QWidget* pParent, std::string strID, std::string strType,
+                     TAMFx::Common::Xml::Node* pLayout);
+    ~ZELProgressRange() override;
+
+    void showWindow() override;
+    void hideWindow() override;
+    void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
+    QWidget* getQWidget() override;
+    void setStep(int nStep) override;
+    void setEnable(bool bEnable) override;
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+    bool event(QEvent* pEvent) override;
+
+    Common::SysLogger m_logger{"QTPANFx", "ZELProgressRange"};
+    QPixmap* m_pBGPixmap = nullptr;    ///< not owned
+    QPixmap* m_pThumbPixmap = nullptr; ///< not owned
+    int m_nOffset = 0;                 ///< pixels between thumbs
+    int m_nThumbWidth = 1;
+    int m_nThumbHeight = 1;
+    int m_nThumbX = 0;
+    int m_nThumbY = 0;
+    int m_nBGWidth = 1;
+    int m_nBGHeight = 1;
+    int m_nBGX = 0;
+    int m_nBGY = 0;
+    char m_chType = 'V';
+
+private:
+    void readValues(TAMFx::Common::Xml::Node* pLayout);
+    bool readPictures(TAMFx::Common::Xml::Node* pLayout);
+    void makeButtons(TAMFx::Common::Xml::Node* pLayout);
+    QRect thumb(int nIndex) const;
+};
+
+} // namespace PANFx::Components
