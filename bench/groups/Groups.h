@@ -25,6 +25,7 @@ void measureTouch(Run& run);
 void measureImageHit(Run& run);
 void measureStringTable(Run& run);
 void measureLogLine(Run& run);
+void measureCompose(Run& run);
 void measureMemory(Run& run);
 void measureStart(Run& run);
 

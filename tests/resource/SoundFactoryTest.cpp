@@ -110,3 +110,44 @@ TEST_F(SoundFactoryTest, neverCallsTheOperationThatIsTheApplicationsOwn)
     for (const std::string& sound : takeSounds())
         EXPECT_NE(sound, "initialize");
 }
+
+TEST_F(SoundFactoryTest, hasALoggerOfItsName)
+{
+    class Open : public SoundFactory
+    {
+    public:
+        using SoundFactory::m_logger;
+    };
+    EXPECT_EQ(Open().m_logger.m_strIdentity, "QTPANFx SoundFactory   ");
+}
+
+TEST_F(SoundFactoryTest, writesNothingWhateverHappens)
+{
+    SoundProbe former(m_sounds);
+    SoundFactory* const sounds = SoundFactory::getInstance();
+    sounds->registerSound(&former);
+    playAll();
+    sounds->registerSound(new SoundProbe(m_sounds));
+    sounds->registerSound(sounds->getSoundObject());
+    playAll();
+    SoundFactory::destroyInstance();
+    EXPECT_EQ(takeSounds().size(), 17u) << "it did happen";
+    EXPECT_TRUE(LogCapture::instance().lines().empty());
+}
+
+TEST_F(SoundFactoryTest, aBackEndMayPlayAndAskAsItEnds)
+{
+    class Last : public SoundProbe
+    {
+    public:
+        using SoundProbe::SoundProbe;
+        ~Last() override
+        {
+            EXPECT_EQ(SoundFactory::getInstance()->getSoundObject(), nullptr);
+            playAll(); // there is no back end any more
+        }
+    };
+    SoundFactory::getInstance()->registerSound(new Last(m_sounds));
+    SoundFactory::destroyInstance();
+    EXPECT_EQ(takeSounds(), Sounds{"deleted"});
+}

@@ -16,7 +16,10 @@ import re
 import sys
 
 # sources that share the header of another one: a second half of one class
-SHARED_HEADER = {}
+SHARED_HEADER = {
+    "print/ImagePrintJob.cpp": "print/ImagePrint.h",
+    "resource/KrPadRules.cpp": "resource/KrPad.h",
+}
 
 # headers that hold small types under a name of their own
 OTHER_NAME = {

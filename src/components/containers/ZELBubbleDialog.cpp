@@ -3,7 +3,7 @@
 #include "common/tamfx/Attribute.h"
 #include "common/tamfx/Node.h"
 #include "common/tamfx/String.h"
-#include "components/support/SubComponents.h"
+#include "components/SubComponents.h"
 
 #include <utility>
 

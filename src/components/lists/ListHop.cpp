@@ -1,9 +1,9 @@
 #include "components/lists/ListHop.h"
 
 #include "common/tamfx/ArrayList.h"
+#include "components/SubComponents.h"
 #include "components/lists/ZELListItem.h"
 #include "components/support/PostToParent.h"
-#include "components/support/SubComponents.h"
 #include "events/ZELListEvent.h"
 
 #include <memory>

@@ -37,12 +37,15 @@ public:
     /** Sets state and direction; a new direction alone doesn't repaint. */
     virtual void setCheck(int nCheck, bool bDirection);
 
-    bool m_bDirection = false;
-
 protected:
     Common::SysLogger m_logger{"QTPANFx", "ZELHeaderButton"};
     QPixmap* m_pUpIcon = nullptr;   ///< shown while the direction is true
     QPixmap* m_pDownIcon = nullptr; ///< shown while it is false
+
+public:
+    bool m_bDirection = false;
+
+protected:
     int m_nIconX = 0;
     int m_nIconY = 0;
     int m_nIconWidth = 1;

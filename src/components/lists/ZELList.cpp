@@ -2,6 +2,7 @@
 
 #include "common/tamfx/Attribute.h"
 #include "common/tamfx/Node.h"
+#include "components/SubComponents.h"
 #include "components/buttons/ZELCheckButton.h"
 #include "components/buttons/ZELRadioButton.h"
 #include "components/lists/ListHop.h"
@@ -12,7 +13,6 @@
 #include "components/support/Picture.h"
 #include "components/support/PostToParent.h"
 #include "components/support/ReceivedEvent.h"
-#include "components/support/SubComponents.h"
 #include "events/EventNumbers.h"
 #include "events/ZELListEvent.h"
 #include "events/ZELRangeEvent.h"
@@ -99,10 +99,12 @@ void ZELList::setLayout(Node* pLayout)
 
 void ZELList::readBackground(Node* pImage)
 {
-    Attribute* file = pImage->getAttributeByName("file");
-    m_pBGPixmap = findPicture(file ? file->getValue() : "");
-    if (!m_pBGPixmap)
-        m_logger.WriteDebug("[%s]  no BackgroundImage File", "setLayout");
+    // a list that wants no picture names none, which is no fault
+    if (Attribute* file = pImage->getAttributeByName("file")) {
+        m_pBGPixmap = findPicture(file->getValue());
+        if (!m_pBGPixmap)
+            m_logger.WriteDebug("[%s]  no BackgroundImage File", "setLayout");
+    }
     ParseHelper::getPosition(pImage, m_nBGX, m_nBGY, m_nBGWidth, m_nBGHeight);
 }
 

@@ -1,10 +1,10 @@
 #include "components/lists/ZELListHeader.h"
 
 #include "common/tamfx/Node.h"
+#include "components/SubComponents.h"
 #include "components/lists/ListHop.h"
 #include "components/support/LayoutPosition.h"
 #include "components/support/ReceivedEvent.h"
-#include "components/support/SubComponents.h"
 #include "events/EventNumbers.h"
 #include "events/ZELEvent.h"
 

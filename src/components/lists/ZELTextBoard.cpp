@@ -3,12 +3,13 @@
 #include "common/Numbers.h"
 #include "common/tamfx/Attribute.h"
 #include "common/tamfx/Node.h"
+#include "components/SubComponents.h"
 #include "components/lists/ZELListScroll.h"
 #include "components/support/ComponentsNode.h"
 #include "components/support/LayoutFont.h"
 #include "components/support/LayoutPosition.h"
+#include "components/support/Painting.h"
 #include "components/support/PostToParent.h"
-#include "components/support/SubComponents.h"
 #include "events/EventNumbers.h"
 #include "resource/Font.h"
 #include "resource/ParseHelper.h"
@@ -105,10 +106,11 @@ void ZELTextBoard::setLayout(Node* pLayout)
     m_pTitleFont =
         pLayout->getAttributeByName("titlestyle") ? fontNamedBy(pLayout, "titlestyle") : m_pFont;
     readBoard(pLayout);
-    if (m_pFont && m_pTitleFont)
+    if (m_pFont)
         countLines();
-    else
-        m_noFont.error(m_logger, "setLayout", m_strID, "has no font");
+    if (!m_pFont || !m_pTitleFont)
+        m_noFont.error(m_logger, "setLayout", m_strID,
+                       m_pFont ? "has no title font" : "has no font");
 }
 
 void ZELTextBoard::readBoard(Node* pLayout)
@@ -131,7 +133,8 @@ void ZELTextBoard::countLines()
     const int boardHeight = m_rcBoard.height();
     m_nLineHeight = std::max(lineHeight(*m_pFont), 1);
     m_nPageLines = boardHeight / m_nLineHeight;
-    m_nTitleLines = m_nPageLines + (lineHeight(*m_pTitleFont) - boardHeight) / m_nLineHeight;
+    const int titleHeight = lineHeight(m_pTitleFont ? *m_pTitleFont : *m_pFont);
+    m_nTitleLines = m_nPageLines + (titleHeight - boardHeight) / m_nLineHeight;
 }
 
 void ZELTextBoard::setText(std::string strText)
@@ -231,7 +234,7 @@ bool ZELTextBoard::event(QEvent* pEvent)
 void ZELTextBoard::paintEvent(QPaintEvent*)
 {
     m_logger.WriteDebug("[%s] start", "paintEvent");
-    if (!m_pFont || !m_pTitleFont) {
+    if (!m_pFont) {
         m_noFont.error(m_logger, "paintEvent", m_strID, "has no font");
         return;
     }
@@ -240,9 +243,9 @@ void ZELTextBoard::paintEvent(QPaintEvent*)
     long long last = first + m_nPageLines;
     int row = 0;
     if (m_nNowPage == 1) {
-        painter.setFont(*m_pTitleFont->m_pFont);
-        painter.setPen(*m_pTitleFont->m_pColor);
-        painter.drawText(m_rcBoard, titleFlags, QString::fromUtf8(m_strTitle.c_str()));
+        if (m_pTitleFont)
+            drawStyledText(painter, QString::fromUtf8(m_strTitle.c_str()), *m_pTitleFont, m_rcBoard,
+                           titleFlags);
         last -= m_nTitleLines;
         row = m_nTitleLines;
     } else {

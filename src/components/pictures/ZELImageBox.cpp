@@ -53,7 +53,9 @@ void ZELImageBox::setLayout(Node* pLayout)
         m_logger.WriteError("[%s]  no File", "setLayout");
         return;
     }
-    setImage(std::string(file->getValue()));
+    // on screen the box is seen in the picture's size first; hidden, it takes its place at once
+    if (takeImage(file->getValue()) && isVisible())
+        resizeToPicture();
     setGeometry(readPosition(pLayout, {0, 0, 0, 0}).rect());
 }
 
@@ -65,13 +67,18 @@ void ZELImageBox::setRotate(int nDegrees)
 
 bool ZELImageBox::setImage(std::string strName)
 {
-    m_pBGPixmap = findPicture(strName);
-    if (!m_pBGPixmap) {
-        m_logger.WriteError("[%s] m_pBGPixmap == NULL", "setImage");
+    if (!takeImage(strName))
         return false;
-    }
     resizeToPicture();
     return true;
+}
+
+bool ZELImageBox::takeImage(const std::string& strName)
+{
+    m_pBGPixmap = findPicture(strName);
+    if (!m_pBGPixmap)
+        m_logger.WriteError("[%s] m_pBGPixmap == NULL", "setImage");
+    return m_pBGPixmap != nullptr;
 }
 
 void ZELImageBox::setImage(QPixmap* pPixmap)

@@ -56,6 +56,7 @@ protected:
     Common::SysLogger m_logger{"QTPANFx", "ZELImageBox"};
 
 private:
+    bool takeImage(const std::string& strName);
     void resizeToPicture();
 };
 

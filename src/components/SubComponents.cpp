@@ -1,4 +1,4 @@
-#include "components/support/SubComponents.h"
+#include "components/SubComponents.h"
 
 #include "components/ZELComponent.h"
 
