@@ -63,15 +63,18 @@ void createPageComponents(TAMFx::Common::Xml::Node* pComponents, QWidget& parent
 
 void showComponents(const std::deque<ZELComponent*>& components)
 {
-    for (ZELComponent* component : components)
-        component->showWindow();
+    for (ZELComponent* component : components) {
+        if (ZELComponent::isAlive(component))
+            component->showWindow();
+    }
 }
 
 ZELComponent* findComponent(const std::deque<ZELComponent*>& components, const std::string& strID)
 {
     const auto found =
-        std::find_if(components.begin(), components.end(),
-                     [&](const ZELComponent* component) { return component->m_strID == strID; });
+        std::find_if(components.begin(), components.end(), [&](const ZELComponent* component) {
+            return ZELComponent::isAlive(component) && component->m_strID == strID;
+        });
     return found == components.end() ? nullptr : *found;
 }
 

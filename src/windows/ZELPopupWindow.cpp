@@ -24,6 +24,8 @@ ZELPopupWindow::ZELPopupWindow(std::string strID, QWidget* pParent)
     const std::string path = layoutPath(m_strID);
     if (!m_layout.loadLayout(path)) {
         m_logger.WriteError("[%s] Layout load failed: %s", "ZELPopupWindow", path.c_str());
+        // no picture will cover it, and what nobody paints shows pixels of former windows
+        setAttribute(Qt::WA_NoSystemBackground, false);
         return;
     }
     createBackgroundSubComponent(m_layout.getBackgroundImageName());

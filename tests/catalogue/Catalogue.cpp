@@ -8,6 +8,8 @@
 #include "components/ComponentTable.h"
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
+#include "components/editors/ZELImageEdit.h"
+#include "components/text/ZELLineEdit.h"
 #include "events/EventNumbers.h"
 #include "events/Timer.h"
 #include "events/ZELEvent.h"
@@ -15,12 +17,6 @@
 #include "support/PanelTest.h"
 #include "support/Pixels.h"
 #include "support/Touch.h"
-#if __has_include("components/editors/ZELImageEdit.h")
-#include "components/editors/ZELImageEdit.h"
-#endif
-#if __has_include("components/text/ZELLineEdit.h")
-#include "components/text/ZELLineEdit.h"
-#endif
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -96,12 +92,8 @@ void setDim(QWidget* widget, bool dim)
 void setDimMode(QWidget* widget, bool dim)
 {
     setDim<PANFx::Components::ZELImageButton>(widget, dim);
-#if __has_include("components/editors/ZELImageEdit.h")
     setDim<PANFx::Components::ZELImageEdit>(widget, dim);
-#endif
-#if __has_include("components/text/ZELLineEdit.h")
     setDim<PANFx::Components::ZELLineEdit>(widget, dim);
-#endif
 }
 
 // as if a held button's timer had ticked so often: without the seconds that it takes

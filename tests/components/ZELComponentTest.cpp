@@ -232,6 +232,26 @@ TEST_F(ZELComponentTest, showsAndHidesItsSubComponentsInTheOrderOfTheSequence)
     EXPECT_TRUE(component.getSubComponent("a")->getQWidget()->isHidden());
 }
 
+TEST_F(ZELComponentTest, aPartThatAnApplicationDeletedIsPassedOverAndKeepsItsNumber)
+{
+    std::vector<std::string> calls;
+    PlainComponent& component = withParts({"a", "b", "c"}, &calls);
+    auto* const c = static_cast<PlainComponent*>(component.getSubComponent("c"));
+    auto* const inner = new PlainComponent(c, "inner");
+    c->adopt(inner);
+    delete component.getSubComponent("b");
+    component.showSubComponent();
+    component.hideSubComponent();
+    EXPECT_EQ(calls, (std::vector<std::string>{"show a", "show c", "hide a", "hide c"}));
+    EXPECT_EQ(component.getSubComponent("b"), nullptr);
+    EXPECT_EQ(component.findByWidget(c), c);
+    EXPECT_EQ(component.findByWidget(inner), inner);
+    EXPECT_EQ(component.findByWidget(&panel()), nullptr);
+    component.deleteSubComponent("b");
+    EXPECT_EQ(component.getComponentCount(), 3);
+    EXPECT_EQ(component.getSubComponent(2), c);
+}
+
 TEST_F(ZELComponentTest, withoutSubComponentsShowingAndHidingDoesNothing)
 {
     PlainComponent component(&panel(), "whole");

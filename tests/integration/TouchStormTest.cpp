@@ -1,6 +1,8 @@
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
+#include "components/buttons/ZELRadioButton.h"
 #include "components/buttons/ZELRadioGroup.h"
+#include "events/EventNumbers.h"
 #include "events/Timer.h"
 #include "support/EventLoop.h"
 #include "support/FrameForTest.h"
@@ -20,6 +22,8 @@ using namespace PANFx;
 using namespace PANFx::Testing;
 using Components::ZELComponent;
 using Components::ZELImageButton;
+using Components::ZELRadioButton;
+using Components::ZELRadioGroup;
 using Windows::ZELChildWindow;
 
 namespace {
@@ -37,6 +41,33 @@ public:
         return button.*&Inside::m_pCurImage == button.*&Inside::m_pDownImage;
     }
     static QObject* timer(const ZELImageButton& button) { return button.*&Inside::m_pTimer; }
+};
+
+// Counts the releases that buttons of a page take and the clicks that reach the page.
+class Traffic : public QObject
+{
+public:
+    void watch(ZELChildWindow& page)
+    {
+        page.installEventFilter(this);
+        for (QWidget* widget : page.findChildren<QWidget*>())
+            widget->installEventFilter(this);
+    }
+
+    int releases = 0;
+    int clicks = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == EVENT_MOUSE_UP)
+            clicks += dynamic_cast<ZELChildWindow*>(watched) ? 1 : 0;
+        else if (event->type() == QEvent::MouseButtonRelease) {
+            auto* const button = dynamic_cast<ZELImageButton*>(watched);
+            releases += button && button->isEnabled() ? 1 : 0;
+        }
+        return false;
+    }
 };
 
 // Pages full of buttons of all kinds in two languages, and a hand that knows no rest.
@@ -63,7 +94,9 @@ protected:
     {
         frame().addPage(id, [this](const std::string& asked) {
             expectNoBackgroundLines();
-            return new ZELChildWindow(asked, &frame(), "");
+            auto* const page = new ZELChildWindow(asked, &frame(), "");
+            m_traffic.watch(*page);
+            return page;
         });
     }
 
@@ -155,9 +188,12 @@ protected:
 
     void hideHeld()
     {
-        const QPointer<QWidget> button(anyButton());
-        press(anyButton());
+        ZELImageButton* const button = anyButton();
+        press(button);
+        const bool held = Inside::pressed(*button);
         button->hide();
+        EXPECT_FALSE(Inside::pressed(*button)) << button->m_strID;
+        m_droppedByHiding += held ? 1 : 0;
         if (any(2) == 0)
             lift();
         button->show();
@@ -170,16 +206,30 @@ protected:
             press(button);
         const bool on = any(2) == 0;
         if (on && Inside::pressed(*button))
-            m_dimmedWhileHeld.push_back(button); // its release goes past it
+            m_dimmedWhileHeld.push_back({button, button}); // its release goes past it
         button->setDimMode(on);
+    }
+
+    // those that died or were touched again since are like the others
+    void forgetTheReleased()
+    {
+        m_dimmedWhileHeld.erase(std::remove_if(m_dimmedWhileHeld.begin(), m_dimmedWhileHeld.end(),
+                                               [](const Dimmed& dimmed) {
+                                                   return !dimmed.widget ||
+                                                          !Inside::pressed(*dimmed.button);
+                                               }),
+                                m_dimmedWhileHeld.end());
     }
 
     void expectNoneHeld(int action)
     {
         lift();
         EventLoop::deliverAndDelete();
+        EXPECT_EQ(m_traffic.clicks, m_traffic.releases) << action << " one click for each";
+        expectOneCheckedAtMost(action);
+        forgetTheReleased();
         for (const ZELImageButton* button : buttons()) {
-            const auto isIt = [&](const QPointer<QWidget>& widget) { return widget == button; };
+            const auto isIt = [&](const Dimmed& dimmed) { return dimmed.button == button; };
             if (std::any_of(m_dimmedWhileHeld.begin(), m_dimmedWhileHeld.end(), isIt))
                 continue;
             EXPECT_FALSE(Inside::pressed(*button)) << action << " " << button->m_strID;
@@ -187,6 +237,19 @@ protected:
             EXPECT_TRUE(button->isVisible()) << action << " " << button->m_strID;
             ++m_lookedAt;
         }
+    }
+
+    void expectOneCheckedAtMost(int action)
+    {
+        auto* const group = dynamic_cast<ZELRadioGroup*>(page()->getSubComponent("group"));
+        ASSERT_NE(group, nullptr);
+        std::string checked;
+        for (const char* id : {"a", "b", "c"}) {
+            if (static_cast<ZELRadioButton*>(group->getSubComponent(id))->m_bChecked)
+                checked += id;
+        }
+        EXPECT_LE(checked.size(), 1u) << action << " " << checked;
+        m_checkedGroups += checked.empty() ? 0 : 1;
     }
 
     void move() { frame().moveTo("p" + std::to_string(any(4)), true, any(2) == 0); }
@@ -255,7 +318,16 @@ protected:
     int m_presses = 0;
     int m_lookedAt = 0;
     int m_languages = 0;
-    std::vector<QPointer<QWidget>> m_dimmedWhileHeld;
+    int m_droppedByHiding = 0;
+    int m_checkedGroups = 0;
+
+    struct Dimmed
+    {
+        QPointer<QWidget> widget; ///< whether the button is still there
+        ZELImageButton* button;
+    };
+    std::vector<Dimmed> m_dimmedWhileHeld;
+    Traffic m_traffic;
 };
 
 } // namespace
@@ -278,13 +350,17 @@ TEST_F(TouchStormTest, tenThousandTouchesLeaveNoButtonPressed)
     EXPECT_GT(m_presses, actions / 10) << "the storm did touch";
     EXPECT_GT(m_lookedAt, 1000) << "and most buttons were fit to be looked at";
     EXPECT_GT(m_languages, 20);
+    EXPECT_GT(m_traffic.clicks, 1000);
+    EXPECT_GT(m_droppedByHiding, 100);
+    EXPECT_GT(m_checkedGroups, 20);
+    EXPECT_LT(m_dimmedWhileHeld.size(), 60u) << "no more than there are buttons";
 }
 
 TEST_F(TouchStormTest, aTouchRepaintsTheButtonAndNothingBesideIt)
 {
     frame().moveTo("p0", true, true);
     EventLoop::deliver();
-    auto* const group = dynamic_cast<Components::ZELRadioGroup*>(page()->getSubComponent("group"));
+    auto* const group = dynamic_cast<ZELRadioGroup*>(page()->getSubComponent("group"));
     ASSERT_NE(group, nullptr);
     PaintCounter onPage(page());
     for (ZELImageButton* button : buttons()) {
@@ -300,9 +376,12 @@ TEST_F(TouchStormTest, aTouchRepaintsTheButtonAndNothingBesideIt)
         EXPECT_EQ(onButton.count(), 1) << button->m_strID;
         const QRect place(button->mapTo(page(), QPoint(0, 0)), button->size());
         EXPECT_TRUE(QRegion(onPage.region()).subtracted(place).isEmpty()) << button->m_strID;
+        onPage.reset();
+        onButton.reset();
         Touch::releaseWindow(&frame(), Touch::middleInWindow(button));
         EventLoop::deliver();
         EXPECT_TRUE(QRegion(onPage.region()).subtracted(place).isEmpty()) << button->m_strID;
         EXPECT_EQ(onButton.area(), 90 * 50) << button->m_strID;
+        EXPECT_EQ(onButton.count(), 1) << button->m_strID;
     }
 }

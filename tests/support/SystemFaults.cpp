@@ -52,6 +52,7 @@ struct Record
 // Looked at by every call of the program, from the first one that a shared library makes while
 // it starts: so it needs no constructor.
 std::atomic<bool> watching{false};
+std::atomic<DeviceInFront*> deviceInFront{nullptr};
 
 Record& record()
 {
@@ -206,6 +207,11 @@ std::vector<std::string> SystemFaults::arguments(SystemCall call) const
     return found;
 }
 
+void setDeviceInFront(DeviceInFront* device)
+{
+    deviceInFront = device;
+}
+
 } // namespace PANFx::Testing
 
 // ---- the definitions that stand in front of the C library's
@@ -256,6 +262,9 @@ FILE* openStream(const char* name, const char* path, const char* mode)
 int openFile(const char* name, const char* path, int flags, mode_t mode)
 {
     using Open = int (*)(const char*, int, ...);
+    int result = -1;
+    if (DeviceInFront* const device = deviceInFront; device && device->open(path, flags, result))
+        return result;
     if (watching && refused(SystemCall::Open, path))
         return -1;
     return next<Open>(name)(path, flags, mode);
@@ -397,6 +406,10 @@ int faults_renameat(int fromFolder, const char* from, int toFolder, const char* 
 ssize_t faults_write(int descriptor, const void* bytes, size_t size)
 {
     using Write = ssize_t (*)(int, const void*, size_t);
+    ssize_t result = -1;
+    if (DeviceInFront* const device = deviceInFront;
+        device && device->write(descriptor, bytes, size, result))
+        return result;
     if (watching) {
         if (refusedOn(SystemCall::Write, descriptor))
             return -1;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace PANFx::Testing {
@@ -58,5 +59,21 @@ public:
      */
     std::vector<std::string> arguments(SystemCall call) const;
 };
+
+/** Takes calls on a device before the system, and any SystemFaults, sees them. */
+class DeviceInFront
+{
+public:
+    virtual ~DeviceInFront() = default;
+
+    /** @return whether the call was taken; @p result and errno are its outcome then */
+    virtual bool open(const char* path, int flags, int& result) = 0;
+
+    /** @return whether the call was taken; @p result and errno are its outcome then */
+    virtual bool write(int descriptor, const void* bytes, size_t size, ssize_t& result) = 0;
+};
+
+/** Puts a device in front, or null for none. */
+void setDeviceInFront(DeviceInFront* device);
 
 } // namespace PANFx::Testing

@@ -1,25 +1,19 @@
 #include "windows/ZELPopupWindow.h"
 
 #include "common/tamfx/Exception.h"
+#include "common/tamfx/Node.h"
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
-#include "events/EventNumbers.h"
-#include "events/ZELEvent.h"
-#include "resource/SoundFactory.h"
-#include "support/EventLoop.h"
+#include "support/FrameForTest.h"
 #include "support/LibraryFaults.h"
-#include "support/PanelTest.h"
 #include "support/Pixels.h"
-#include "support/SoundProbe.h"
-#include "support/Touch.h"
+#include "support/VirtualSlot.h"
+#include "windows/PopupTest.h"
 
-#include <QCoreApplication>
 #include <QPointer>
 #include <QScreen>
-#include <QTimer>
 
-#include <algorithm>
-#include <functional>
+#include <stdexcept>
 
 using namespace PANFx;
 using namespace PANFx::Testing;
@@ -29,90 +23,11 @@ using Windows::ZELPopupWindow;
 
 namespace {
 
-using Strings = std::vector<std::string>;
-
-// An application's dialog that notes what happens to it.
-class Dialog : public ZELPopupWindow
+class ZELPopupWindowTest : public PopupTest
 {
-public:
-    using ZELPopupWindow::m_bLoopMode;
-    using ZELPopupWindow::m_eventLoop;
-    using ZELPopupWindow::m_layout;
-    using ZELPopupWindow::m_logger;
-    using ZELPopupWindow::m_strPopupTag;
-    using ZELPopupWindow::ZELPopupWindow;
-
-    void activating() override { note("activating"); }
-    void createSubComponent(TAMFx::Common::Xml::Node* pComponents) override
-    {
-        note("createSubComponent");
-        ZELPopupWindow::createSubComponent(pComponents);
-    }
-
-    void note(const std::string& step) { m_steps->push_back(step); }
-
-    std::shared_ptr<Strings> m_steps = std::make_shared<Strings>();
-
-protected:
-    bool event(QEvent* event) override
-    {
-        if (event->type() >= 1550)
-            note("event " + std::to_string(event->type()));
-        return ZELPopupWindow::event(event);
-    }
-    void showEvent(QShowEvent* event) override
-    {
-        note("show");
-        ZELPopupWindow::showEvent(event);
-    }
-    void hideEvent(QHideEvent* event) override
-    {
-        note("hide");
-        ZELPopupWindow::hideEvent(event);
-    }
-};
-
-class ZELPopupWindowTest : public PanelTest
-{
-protected:
-    ZELPopupWindowTest()
-    {
-        Resource::SoundFactory::getInstance()->registerSound(new SoundProbe(m_sounds));
-    }
-
-    /** A dialog without a background, with this in its Components section. */
-    std::unique_ptr<Dialog> dialog(const std::string& components = "", QWidget* parent = nullptr)
-    {
-        writeLayout("ask", "<layout><Components>" + components + "</Components></layout>");
-        expectNoBackgroundLines();
-        return std::make_unique<Dialog>("ask", parent);
-    }
-
-    static std::string button(const std::string& id)
-    {
-        return "<button><" + id +
-               "><image up='up.png' down='up.png'/>"
-               "<position x='100' y='50' width='80' height='40'/></" +
-               id + "></button>";
-    }
-
-    /** Does this once, from inside the next event loop. */
-    static void inTheLoop(std::function<void()> action)
-    {
-        QTimer::singleShot(0, std::move(action));
-    }
-
-    int popups() const
-    {
-        return static_cast<int>(std::count(m_sounds->begin(), m_sounds->end(), "popup"));
-    }
-
-    std::shared_ptr<SoundProbe::Sounds> m_sounds = std::make_shared<SoundProbe::Sounds>();
 };
 
 } // namespace
-
-// ---- building
 
 TEST_F(ZELPopupWindowTest, isAWindowOfTheLibraryFirstAndADialogSecond)
 {
@@ -170,6 +85,8 @@ TEST_F(ZELPopupWindowTest, buildsItsComponentsAndShowsThemWithIt)
     EXPECT_EQ(yes->m_strType, "ZELImageButton");
     EXPECT_EQ(yes->getQWidget()->parentWidget(), shown.get());
     EXPECT_FALSE(yes->getQWidget()->isVisible());
+    // a dialog that is shown takes children along that nobody has shown
+    EXPECT_TRUE(yes->getQWidget()->testAttribute(Qt::WA_WState_ExplicitShowHide));
     shown->show();
     EXPECT_TRUE(yes->getQWidget()->isVisible());
 }
@@ -266,15 +183,14 @@ TEST_F(ZELPopupWindowTest, faultsOfTheFoundationPassToTheCaller)
 TEST_F(ZELPopupWindowTest, aBrokenLayoutIsToldAndGivesAnEmptyDialog)
 {
     writeLayout("ask", "<layout><Components>");
-    const auto isNotOurs = [](const LogLine& line) { return line.className() != "ZELPopupWindow"; };
-    log().expectError("[ZELPopupWindow] Layout load failed: " + resources + "/layout/ask.resource");
+    log().expectError(
+        "[loadLayout] XmlException: ask.resource: line 1, column 20: Start-end tags mismatch", 1,
+        "ZELLayout");
+    log().expectError("[ZELPopupWindow] Layout load failed: " + resources + "/layout/ask.resource",
+                      1, "ZELPopupWindow");
     const Dialog shown("ask", nullptr);
     EXPECT_TRUE(shown.m_dqSubComponents.empty());
-    // the reader of layouts has its own line, in its own words
-    for (const LogLine& line : log().lines()) {
-        if (isNotOurs(line) && line.text.rfind("[E] ", 0) == 0)
-            log().expectError(line.text.substr(4));
-    }
+    EXPECT_EQ(log().countLevel('E'), 2) << "and no line of a part that is missing then";
 }
 
 TEST_F(ZELPopupWindowTest, keepsATagForTheApplication)
@@ -285,293 +201,66 @@ TEST_F(ZELPopupWindowTest, keepsATagForTheApplication)
     EXPECT_EQ(shown->m_strPopupTag, "which");
 }
 
-// ---- exec
-
-TEST_F(ZELPopupWindowTest, execSoundsActivatesShowsAndPostsTheActivation)
+TEST_F(ZELPopupWindowTest, hasItsOperationsBehindThoseOfAWindow)
 {
-    const auto shown = dialog();
-    bool modal = false;
-    inTheLoop([&] {
-        modal = shown->isModal();
-        shown->m_nPopupResult = 7;
-        inTheLoop([&] { shown->accept(); }); // behind what is queued already
-    });
-    EXPECT_EQ(shown->exec(), 7);
-    EXPECT_TRUE(modal);
-    EXPECT_EQ(*shown->m_steps, (Strings{"activating", "show", "event 1550", "hide"}));
-    EXPECT_EQ(popups(), 1);
-    EXPECT_FALSE(shown->isVisible());
-    EXPECT_FALSE(shown->m_bLoopMode);
+    std::intptr_t place = slot(&Windows::ZELWindow::showSubComponent);
+    EXPECT_EQ(slot(&ZELPopupWindow::activating), place += slotSize);
+    EXPECT_EQ(slot(&ZELPopupWindow::accept), place += slotSize);
+    EXPECT_EQ(slot(&ZELPopupWindow::reject), place += slotSize);
 }
 
-TEST_F(ZELPopupWindowTest, theActivationHasNoSenderAndNoId)
+TEST_F(ZELPopupWindowTest, aDialogWithoutALayoutIsBlackOnTheScreen)
 {
-    const auto shown = dialog();
-    EventRecorder recorder;
-    recorder.listenAt(shown.get());
-    inTheLoop([&] { shown->accept(); });
-    shown->exec();
-    const RecordedEvent activation = recorder.takeOne();
-    EXPECT_EQ(activation.type, EVENT_WINDOW_ACTIVATE);
-    EXPECT_EQ(activation.classType, "ZELEvent");
-    EXPECT_EQ(activation.sender, nullptr);
-    EXPECT_EQ(activation.id, "");
+    const std::string path = resources + "/layout/nosuch.resource";
+    log().expectError("[loadLayout] Cannot load layout file(xml) - " + path);
+    log().expectError("[ZELPopupWindow] Layout load failed: " + path);
+    for (int i = 0; i < 8; ++i) { // leaves memory behind that is full of white
+        QWidget former;
+        former.setPalette(Qt::white);
+        former.resize(800, 480);
+        former.show();
+        EventLoop::deliver();
+    }
+    Dialog shown("nosuch", nullptr);
+    shown.show();
+    EventLoop::deliver();
+    const QImage seen = shown.screen()->grabWindow(shown.winId()).toImage();
+    ASSERT_EQ(seen.size(), QSize(800, 480));
+    EXPECT_EQ(Pixels::count(seen, Qt::black), 800 * 480);
 }
 
-TEST_F(ZELPopupWindowTest, theSoundComesBeforeTheActivation)
+TEST_F(ZELPopupWindowTest, keepsItsLayoutForLife)
 {
-    const auto shown = dialog();
-    class Backend : public SoundProbe
-    {
-    public:
-        explicit Backend(std::shared_ptr<Strings> steps)
-            : SoundProbe(std::move(steps))
-        {
-        }
-    };
-    delete Resource::SoundFactory::getInstance()->getSoundObject();
-    Resource::SoundFactory::getInstance()->registerSound(new Backend(shown->m_steps));
-    inTheLoop([&] { shown->reject(); });
-    shown->exec();
-    ASSERT_GE(shown->m_steps->size(), 2u);
-    EXPECT_EQ((*shown->m_steps)[0], "popup");
-    EXPECT_EQ((*shown->m_steps)[1], "activating");
+    const auto shown = dialog("<button/>");
+    removeFile(resources + "layout/ask.resource");
+    TAMFx::Common::Xml::Node* const components = shown->m_layout.getFirstNodebyName("Components");
+    ASSERT_NE(components, nullptr);
+    EXPECT_STREQ(components->getChildNode(0)->getName(), "button");
 }
 
-TEST_F(ZELPopupWindowTest, itsResultIsTheDerivedClassesAndNotQtsOwn)
-{
-    const auto shown = dialog();
-    inTheLoop([&] { shown->accept(); });
-    EXPECT_EQ(shown->exec(), -1);
-    EXPECT_EQ(shown->result(), int(QDialog::Accepted));
-    inTheLoop([&] { shown->reject(); });
-    EXPECT_EQ(shown->exec(), -1);
-    EXPECT_EQ(shown->result(), int(QDialog::Rejected));
-    inTheLoop([&] { shown->accept(); });
-    QDialog* const plain = shown.get();
-    EXPECT_EQ(plain->exec(), -1) << "also through its base";
-}
-
-TEST_F(ZELPopupWindowTest, execDropsThePressesOfThePageBeneath)
+TEST_F(ZELPopupWindowTest, findsTheFirstOfEqualIds)
 {
     writePicture("up.png", 20, 20, Qt::green);
-    auto* const beneath =
-        buildComponent<ZELImageButton>("button", "<b><image up='up.png' down='up.png'/>"
-                                                 "<position width='80' height='40'/></b>");
-    int blocked = 0;
-    class Filter : public QObject
-    {
-    public:
-        explicit Filter(int& blocked)
-            : m_blocked(blocked)
-        {
-        }
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            m_blocked += event->type() == QEvent::WindowBlocked ? 1 : 0;
-            return false;
-        }
-
-    private:
-        int& m_blocked;
-    } filter(blocked);
-    beneath->installEventFilter(&filter);
-    const auto shown = dialog("", &panel());
-    Touch::press(beneath);
-    inTheLoop([&] { shown->accept(); });
-    shown->exec();
-    EXPECT_EQ(blocked, 1);
-    EXPECT_EQ(panel().takeTypes(), std::vector<int>{});
+    const auto shown = dialog(button("a") + button("yes") + button("yes"));
+    ASSERT_EQ(shown->m_dqSubComponents.size(), 3u);
+    EXPECT_EQ(shown->getSubComponent("yes"), shown->m_dqSubComponents[1]);
 }
 
-// ---- showAndWait
-
-TEST_F(ZELPopupWindowTest, showAndWaitSoundsActivatesShowsAndPostsNothing)
+TEST_F(ZELPopupWindowTest, isNoneOfTheFramesPages)
 {
-    const auto shown = dialog();
-    bool modal = true;
-    bool running = false;
-    inTheLoop([&] {
-        modal = shown->isModal();
-        running = shown->m_eventLoop->isRunning();
-        shown->m_nPopupResult = 3;
-        shown->reject();
-    });
-    EXPECT_EQ(shown->showAndWait(), 3);
-    EXPECT_FALSE(modal);
-    EXPECT_TRUE(running);
-    EXPECT_EQ(*shown->m_steps, (Strings{"activating", "show"}));
-    EXPECT_TRUE(shown->isVisible()) << "hiding it falls to the caller";
-    EXPECT_TRUE(shown->m_bLoopMode);
-    EXPECT_EQ(popups(), 1);
-}
-
-TEST_F(ZELPopupWindowTest, withoutAResultBothFormsReturnMinusOne)
-{
-    const auto executed = dialog();
-    inTheLoop([&] { executed->accept(); });
-    EXPECT_EQ(executed->exec(), -1);
-    const auto waited = dialog();
-    inTheLoop([&] { waited->accept(); });
-    EXPECT_EQ(waited->showAndWait(), -1);
-}
-
-TEST_F(ZELPopupWindowTest, theSoundCanBeSwitchedOffForBothForms)
-{
-    for (const bool waits : {false, true}) {
-        const auto shown = dialog();
-        shown->setSoundPlay(false);
-        inTheLoop([&] { shown->accept(); });
-        waits ? shown->showAndWait() : shown->exec();
+    for (const char* page : {"main", "next"}) {
+        writeLayout(page, "<layout><Components/></layout>");
+        frame().addPage(page);
     }
-    EXPECT_EQ(popups(), 0);
-}
-
-TEST_F(ZELPopupWindowTest, pagesBeneathGoOnWhileItWaits)
-{
-    const auto shown = dialog();
-    inTheLoop([&] {
-        QCoreApplication::postEvent(&panel(), new ZELEvent(QEvent::Type(2000)));
-        inTheLoop([&] { shown->accept(); });
-    });
-    shown->showAndWait();
-    EXPECT_EQ(panel().takeTypes(), std::vector<int>{2000});
-}
-
-TEST_F(ZELPopupWindowTest, acceptBeforeTheWaitIsQtsAndTheWaitStillWaits)
-{
-    const auto shown = dialog();
-    shown->accept();
-    EXPECT_EQ(shown->result(), int(QDialog::Accepted));
-    bool reached = false;
-    inTheLoop([&] {
-        reached = true;
-        shown->accept();
-    });
-    shown->showAndWait();
-    EXPECT_TRUE(reached);
-}
-
-TEST_F(ZELPopupWindowTest, acceptAfterTheWaitDoesNothing)
-{
-    const auto shown = dialog();
-    inTheLoop([&] {
-        shown->accept();
-        shown->accept();
-    });
-    shown->showAndWait();
-    shown->accept();
-    shown->reject();
-    shown->eventLoopExit();
-    EXPECT_TRUE(shown->isVisible());
-    EXPECT_EQ(shown->result(), 0);
-}
-
-TEST_F(ZELPopupWindowTest, canWaitAgain)
-{
-    const auto shown = dialog();
-    for (const int result : {1, 2}) {
-        inTheLoop([&, result] {
-            shown->m_nPopupResult = result;
-            shown->accept();
-        });
-        EXPECT_EQ(shown->showAndWait(), result);
-    }
-    EXPECT_EQ(popups(), 2);
-}
-
-TEST_F(ZELPopupWindowTest, execAfterTheWaitWouldNeverEndAndIsRefused)
-{
-    const auto shown = dialog();
-    inTheLoop([&] {
-        shown->m_nPopupResult = 5;
-        shown->accept();
-    });
-    shown->showAndWait();
-    shown->m_steps->clear();
-    log().expectError("[exec] ask has run by showAndWait", 1, "ZELPopupWindow");
-    EXPECT_EQ(shown->exec(), 5);
-    EXPECT_EQ(*shown->m_steps, Strings{});
-    EXPECT_EQ(popups(), 1);
-}
-
-TEST_F(ZELPopupWindowTest, aWaitInsideExecIsRefusedSoThatAcceptStillEndsIt)
-{
-    const auto shown = dialog();
-    log().expectError("[showAndWait] ask runs by exec", 1, "ZELPopupWindow");
-    inTheLoop([&] {
-        shown->m_nPopupResult = 4;
-        EXPECT_EQ(shown->showAndWait(), 4);
-        shown->accept();
-    });
-    EXPECT_EQ(shown->exec(), 4);
-    EXPECT_EQ(shown->result(), int(QDialog::Accepted));
-    EXPECT_EQ(popups(), 1);
-}
-
-TEST_F(ZELPopupWindowTest, afterExecItCanStillWait)
-{
-    const auto shown = dialog();
-    inTheLoop([&] { shown->accept(); });
-    shown->exec();
-    inTheLoop([&] {
-        shown->m_nPopupResult = 6;
-        shown->accept();
-    });
-    EXPECT_EQ(shown->showAndWait(), 6);
-}
-
-TEST_F(ZELPopupWindowTest, deletedByItsOwnActivatingItLetsTheCallerGo)
-{
-    class Gone : public ZELPopupWindow
-    {
-    public:
-        using ZELPopupWindow::ZELPopupWindow;
-        void activating() override { delete this; }
-    };
-    writeLayout("ask", "<layout><Components/></layout>");
-    expectNoBackgroundLines(2);
-    EXPECT_EQ((new Gone("ask", nullptr))->exec(), -1);
-    EXPECT_EQ((new Gone("ask", nullptr))->showAndWait(), -1);
-}
-
-TEST_F(ZELPopupWindowTest, deletedWhileItWaitsItLetsTheCallerGo)
-{
-    auto* const shown = dialog().release();
-    inTheLoop([=] { delete shown; });
-    EXPECT_EQ(shown->showAndWait(), -1);
-}
-
-TEST_F(ZELPopupWindowTest, deletedWhileItIsExecutedItLetsTheCallerGo)
-{
-    auto* const shown = dialog().release();
-    inTheLoop([=] { delete shown; });
-    EXPECT_EQ(shown->exec(), -1);
-}
-
-TEST_F(ZELPopupWindowTest, aButtonInsideReachesTheDialogAndEndsIt)
-{
-    writePicture("up.png", 20, 20, Qt::green);
-    class Question : public Dialog
-    {
-    public:
-        using Dialog::Dialog;
-
-    protected:
-        bool event(QEvent* event) override
-        {
-            if (event->type() == EVENT_MOUSE_UP) {
-                m_nPopupResult = static_cast<ZELEvent*>(event)->m_strID == "yes" ? 1 : 0;
-                accept();
-            }
-            return Dialog::event(event);
-        }
-    };
-    writeLayout("ask", "<layout><Components>" + button("yes") + "</Components></layout>");
-    for (const bool waits : {false, true}) {
-        expectNoBackgroundLines();
-        Question question("ask", nullptr);
-        inTheLoop([&] { Touch::tap(question.getSubComponent("yes")->getQWidget()); });
-        EXPECT_EQ(waits ? question.showAndWait() : question.exec(), 1);
-    }
+    expectNoBackgroundLines(3); // one page is made anew
+    frame().moveTo("main");
+    const auto shown = dialog("", &frame());
+    const QPointer<QWidget> alive(shown->window());
+    frame().moveTo("next");
+    EXPECT_EQ(frame().m_dqChildWindows.size(), 2u);
+    EXPECT_EQ(frame().findChild("ask"), nullptr);
+    frame().removeAllChildWnd("next");
+    EventLoop::deliverAndDelete();
+    EXPECT_FALSE(alive.isNull());
+    EXPECT_EQ(shown->parent(), &frame());
 }

@@ -4,6 +4,7 @@
 #include "common/tamfx/Object.h"
 #include "components/buttons/ZELRadioButton.h"
 #include "components/support/LayoutPosition.h"
+#include "components/support/ReceivedEvent.h"
 #include "events/EventNumbers.h"
 #include "events/ZELEvent.h"
 
@@ -172,11 +173,8 @@ void ZELRadioGroup::select(const ZELComponent& component)
 bool ZELRadioGroup::event(QEvent* pEvent)
 {
     if (pEvent->type() == EVENT_MOUSE_UP) {
-        if (const ZELEvent* click = ZELEvent::from(pEvent))
+        if (const ZELEvent* click = receivedEvent(pEvent, m_strID, m_logger))
             handleClick(click->m_pSender);
-        else
-            m_logger.WriteError("[%s] %s got an event %d that is no ZELEvent", "event",
-                                m_strID.c_str(), int(pEvent->type()));
     }
     return QWidget::event(pEvent);
 }

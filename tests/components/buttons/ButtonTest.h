@@ -21,6 +21,7 @@
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -86,12 +87,46 @@ class ButtonTest : public PanelTest
 protected:
     using Types = std::vector<int>;
 
+    // alignments as the fields hold them
+    static constexpr int centred = 0x84;
+    static constexpr int toTheRight = 0x82;
+    static constexpr int toTheLeft = 0x81;
+
+    // where the element of ok() puts a button
+    static constexpr QSize size{80, 40};
+    static constexpr QRect place{10, 20, 80, 40};
+
     ButtonTest()
     {
         writePicture("up.png", 60, 30, Qt::green);
         writePicture("down.png", 60, 30, Qt::blue);
         writePicture("dim.png", 60, 30, Qt::yellow);
         Resource::SoundFactory::getInstance()->registerSound(new SoundProbe(m_sounds));
+    }
+
+    /** Does this at each touch sound from now on, in the moment in which it is played. */
+    void atTouchSound(std::function<void()> action)
+    {
+        class Watch : public SoundProbe
+        {
+        public:
+            Watch(std::shared_ptr<Sounds> sounds, std::function<void()> action)
+                : SoundProbe(std::move(sounds))
+                , m_action(std::move(action))
+            {
+            }
+            void playTouchSound() override
+            {
+                SoundProbe::playTouchSound();
+                m_action();
+            }
+
+        private:
+            std::function<void()> m_action;
+        };
+        auto* const factory = Resource::SoundFactory::getInstance();
+        const std::unique_ptr<Resource::SoundBase> former(factory->getSoundObject());
+        factory->registerSound(new Watch(m_sounds, std::move(action)));
     }
 
     /** A button on the panel, shown. */
@@ -118,6 +153,12 @@ protected:
 
     static const std::string styled; ///< a title in all three styles
 
+    /** An element "ok" whose button is pushed a little while held. */
+    static std::string pushed(const std::string& attributes = "")
+    {
+        return ok(styled + "animation='elastic_push' " + attributes);
+    }
+
     /** Lets the clock of a held button come round once. */
     template <class T>
     void tick(T* button)
@@ -130,6 +171,22 @@ protected:
     {
         QTimerEvent round(1);
         QCoreApplication::sendEvent(button->m_pTimer, &round);
+    }
+
+    /** A picture of a black and a white pixel: scaled smoothly, it has greys between. */
+    void writeHalves(const std::string& name)
+    {
+        QImage halves(2, 1, QImage::Format_RGB32);
+        halves.setPixelColor(0, 0, Qt::black);
+        halves.setPixelColor(1, 0, Qt::white);
+        writePicture(name, halves);
+    }
+
+    /** How many pixels inside are neither black nor white. */
+    static int greys(const QImage& image, const QRect& inside)
+    {
+        return inside.width() * inside.height() - Pixels::count(image, Qt::black, inside) -
+               Pixels::count(image, Qt::white, inside);
     }
 
     /** The touch sounds so far. */

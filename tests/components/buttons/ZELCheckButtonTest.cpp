@@ -16,9 +16,6 @@ public:
     using ZELCheckButton::m_logger;
 };
 
-constexpr int centred = 0x84;
-const QSize size(80, 40);
-
 class ZELCheckButtonTest : public ButtonTest
 {
 protected:
@@ -147,7 +144,7 @@ TEST_F(ZELCheckButtonTest, checkedWithoutADownPictureItTellsSoOnceAndShowsNone)
             EXPECT_EQ(Pixels::inkInside(seen(button), button->rect()), 0);
     }
     log().expectError("[getImage] No FileName Error", 1, "ZELImageMgr");
-    log().expectError("[paintEvent] ok is checked and has no down image", 2, "ZELImageButton");
+    log().expectError("[paintEvent] ok is checked and has no down image", 2, "ZELCheckButton");
 }
 
 TEST_F(ZELCheckButtonTest, theTitleTakesTheFirstStyleThatFits)
@@ -219,4 +216,36 @@ TEST_F(ZELCheckButtonTest, writingTheStateRepaintsNothing)
     button->m_bChecked = true;
     EventLoop::deliver();
     EXPECT_EQ(paints.count(), 0);
+}
+
+TEST_F(ZELCheckButtonTest, thePictureIsScaledSmoothlyInBothStates)
+{
+    writeHalves("halves.png");
+    auto* const button = make<Check>(ok());
+    button->setImages("halves.png", "halves.png", "");
+    for (const bool checked : {false, true}) {
+        button->m_bChecked = checked;
+        EXPECT_GT(greys(seen(button), button->rect()), 0) << checked;
+        EXPECT_EQ(Pixels::inkInside(seen(button), button->rect()), 3200) << checked;
+    }
+}
+
+TEST_F(ZELCheckButtonTest, theEngravedTitleMovesByOneAtAllEdges)
+{
+    const QString text = QStringLiteral("HH");
+    for (const auto& [textPos, rect, align] :
+         {std::make_tuple("<textPos x='5' y='3' width='60' height='30' align='right'/>",
+                          QRect(5, 3, 60, 30), toTheRight),
+          std::make_tuple("", QRect(0, 0, 80, 40), centred)}) {
+        auto* const button = make<Check>(
+            ok("title='HH' style='normal' pressstyle='pressed' dimstyle='dimmed'", textPos));
+        for (const bool checked : {false, true}) {
+            button->setDimMode(true);
+            button->m_bChecked = checked;
+            QImage expected = filled(size, checked ? Qt::blue : Qt::yellow);
+            drawText(expected, text, rect.translated(1, 1), align, "dimmed", QColor(200, 200, 200));
+            drawText(expected, text, rect, align, "dimmed", QColor(128, 128, 128));
+            EXPECT_TRUE(Pixels::same(seen(button), expected)) << textPos << checked;
+        }
+    }
 }

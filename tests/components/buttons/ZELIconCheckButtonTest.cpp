@@ -23,10 +23,6 @@ public:
     using ZELIconCheckButton::m_strSecondText;
 };
 
-constexpr int centred = 0x84;
-constexpr int toTheRight = 0x82;
-constexpr int toTheLeft = 0x81;
-
 class ZELIconCheckButtonTest : public ButtonTest
 {
 protected:
@@ -202,7 +198,7 @@ TEST_F(ZELIconCheckButtonTest, checkedWithoutADownPictureItTellsSoOnce)
     button->m_bChecked = true;
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(Pixels::inkInside(Pixels::grab(button), button->rect()), 0);
-    log().expectError("[paintEvent] ok is checked and has no down image");
+    log().expectError("[paintEvent] ok is checked and has no down image", 1, "ZELIconCheckButton");
 }
 
 TEST_F(ZELIconCheckButtonTest, drawsBothTextsInOneStyle)
@@ -270,6 +266,56 @@ TEST_F(ZELIconCheckButtonTest, placesItsIcon)
     EXPECT_EQ(iconOf("<icon image='square.png' scale='0'/>"), QRect());
 }
 
+TEST_F(ZELIconCheckButtonTest, theScaleIsTakenInSinglePrecision)
+{
+    writePicture("hundred.png", 100, 100, Qt::magenta);
+    // 0.29 times 100 is a hair under 29 in double precision
+    EXPECT_EQ(iconOf("<icon image='hundred.png' scale='29'/>"), QRect(3, 11, 29, 29));
+}
+
+TEST_F(ZELIconCheckButtonTest, anIconLargerThanTheRowIsShiftedAfterTheFractionIsCut)
+{
+    writePicture("high.png", 51, 51, Qt::magenta); // half a pixel above the row
+    EXPECT_EQ(iconOf("<icon image='high.png'/>"), QRect(3, 1, 51, 49));
+    writePicture("broad.png", 199, 199, Qt::magenta); // half a pixel from its left edge
+    EXPECT_EQ(iconOf("<icon image='broad.png' align='center'/>"), QRect(0, 0, 197, 50));
+    writePicture("larger.png", 301, 301, Qt::magenta);
+    EXPECT_EQ(iconOf("<icon image='larger.png' align='center'/>"), QRect(0, 0, 200, 50));
+}
+
+TEST_F(ZELIconCheckButtonTest, scalesItsPicturesSmoothlyAndTheIconOverAPictureOnly)
+{
+    writeHalves("halves.png");
+    const QRect iconPlace(3, 1, 50, 100); // as wide as the picture is high, fifty times
+    auto* const button = row("<icon image='halves.png' scale='5000'/>");
+    const auto shades = [&] {
+        const QImage seen = Pixels::grab(button);
+        return greys(seen, iconPlace & button->rect());
+    };
+    EXPECT_GT(shades(), 0);
+    button->setImages("", "nosuch.png", "");
+    button->m_pCurImage = nullptr;
+    EXPECT_EQ(shades(), 0) << "nothing has asked for smoothness";
+    log().expectError("[getImage] No FileName Error", 1, "ZELImageMgr");
+
+    auto* const plain = row("");
+    plain->setImages("halves.png", "halves.png", "");
+    for (const bool checked : {false, true}) {
+        plain->m_bChecked = checked;
+        EXPECT_GT(greys(Pixels::grab(plain), plain->rect()), 0) << checked;
+    }
+}
+
+TEST_F(ZELIconCheckButtonTest, isPushedAlsoWithoutATitle)
+{
+    auto* const button = row("", "animation='elastic_push'");
+    Touch::press(button);
+    EXPECT_EQ(button->m_animation.state(), QAbstractAnimation::Running);
+    EXPECT_EQ(button->m_animation.endValue().toRect(), QRect(13, 23, 200, 50));
+    Touch::release(button);
+    EXPECT_EQ(button->m_animation.endValue().toRect(), QRect(10, 20, 200, 50));
+}
+
 TEST_F(ZELIconCheckButtonTest, theIconFadesWhenChecked)
 {
     auto* const button = row("<icon image='square.png'/>");
@@ -296,11 +342,14 @@ TEST_F(ZELIconCheckButtonTest, theIconCanBeHiddenAndChanged)
 
 TEST_F(ZELIconCheckButtonTest, anAbsurdScaleDoesNoHarm)
 {
-    for (const char* scale : {"-50", "2147483647", "-2147483648"}) {
-        auto* const button =
-            row("<icon image='square.png' align='center' scale='" + std::string(scale) + "'/>");
-        EXPECT_FALSE(Pixels::grab(button).isNull()) << scale;
-    }
+    const auto centred = [this](const std::string& scale) {
+        return iconOf("<icon image='square.png' align='center' scale='" + scale + "'/>");
+    };
+    // Qt draws a picture in its own size where the wanted one is negative
+    EXPECT_EQ(centred("-50"), QRect(103, 31, 20, 19));
+    EXPECT_EQ(centred("2147483647"), QRect()) << "far off to the left";
+    EXPECT_EQ(centred("-2147483648"), QRect()) << "far off to the right";
+    EXPECT_EQ(centred("100000"), QRect(0, 0, 200, 50));
 }
 
 TEST_F(ZELIconCheckButtonTest, settersRepaintNothing)

@@ -16,8 +16,6 @@ public:
     using ZELRadioButton::m_logger;
 };
 
-const QSize size(80, 40);
-
 class ZELRadioButtonTest : public ButtonTest
 {
 };
@@ -134,7 +132,7 @@ TEST_F(ZELRadioButtonTest, checkedWithoutADownPictureItTellsSoOnceAndShowsNone)
     button->m_bChecked = true;
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(Pixels::inkInside(Pixels::grab(button), button->rect()), 0);
-    log().expectError("[paintEvent] ok is checked and has no down image");
+    log().expectError("[paintEvent] ok is checked and has no down image", 1, "ZELRadioButton");
 }
 
 TEST_F(ZELRadioButtonTest, theTitleTakesTheFirstStyleThatFits)
@@ -177,4 +175,24 @@ TEST_F(ZELRadioButtonTest, theTitleIsNeverElided)
     button->setElidedText(true);
     EXPECT_TRUE(Pixels::same(Pixels::grab(button), before));
     EXPECT_FALSE(Pixels::same(before, filled(size, Qt::green)));
+}
+
+TEST_F(ZELRadioButtonTest, theDownPictureIsLoadedWhenItIsFirstPainted)
+{
+    auto* const button = make<Radio>(ok());
+    button->m_pDownImage = nullptr;
+    button->setCheck(1);
+    EXPECT_TRUE(Pixels::same(Pixels::grab(button), filled(size, Qt::blue)));
+    EXPECT_EQ(button->m_pDownImage, picture("down.png"));
+}
+
+TEST_F(ZELRadioButtonTest, thePictureIsScaledSmoothlyInBothStates)
+{
+    writeHalves("halves.png");
+    auto* const button = make<Radio>(ok());
+    button->setImages("halves.png", "halves.png", "");
+    for (const bool checked : {false, true}) {
+        button->m_bChecked = checked;
+        EXPECT_GT(greys(Pixels::grab(button), button->rect()), 0) << checked;
+    }
 }

@@ -1,63 +1,17 @@
 #include "components/buttons/ZELRadioGroup.h"
 
-#include "components/buttons/ButtonTest.h"
-#include "components/buttons/ZELRadioButton.h"
-#include "components/text/ZELLabel.h"
+#include "components/buttons/RadioGroupTest.h"
 
 using namespace PANFx;
 using namespace PANFx::Testing;
 using Components::ZELComponent;
-using Components::ZELImageButton;
-using Components::ZELLabel;
 using Components::ZELRadioButton;
 using Components::ZELRadioGroup;
 
 namespace {
 
-class Group : public ZELRadioGroup
+class ZELRadioGroupTest : public RadioGroupTest
 {
-public:
-    using ZELRadioGroup::m_bFlag;
-    using ZELRadioGroup::m_buttons;
-    using ZELRadioGroup::m_logger;
-    using ZELRadioGroup::ZELRadioGroup;
-
-    ZELRadioButton* button(const std::string& id)
-    {
-        return static_cast<ZELRadioButton*>(getSubComponent(id));
-    }
-};
-
-class ZELRadioGroupTest : public ButtonTest
-{
-protected:
-    static std::string button(const std::string& id, int x, const std::string& attributes = "")
-    {
-        return "<" + id + " " + attributes +
-               "><image up='up.png' down='down.png' dim='dim.png'/><position x='" +
-               std::to_string(x) + "' y='0' width='60' height='40'/></" + id + ">";
-    }
-
-    /** A group "grp" of the radio buttons a, b and c, and of what else is given. */
-    Group* abc(const std::string& more = "")
-    {
-        return make<Group>("<grp><position x='100' y='50' width='400' height='60'/><radiobutton>" +
-                               button("a", 0) + button("b", 60) + button("c", 120) +
-                               "</radiobutton>" + more + "</grp>",
-                           "ZELRadioGroup");
-    }
-
-    static std::string checked(Group* group)
-    {
-        std::string ids;
-        for (int i = 0; i < group->getComponentCount(); ++i) {
-            ZELComponent* const component = group->ZELComponent::getSubComponent(i);
-            if (component->m_strType == "ZELRadioButton" &&
-                static_cast<ZELRadioButton*>(component)->m_bChecked)
-                ids += component->m_strID;
-        }
-        return ids;
-    }
 };
 
 } // namespace
@@ -79,6 +33,11 @@ TEST_F(ZELRadioGroupTest, isAComponentFirstAndAnInvisibleWidgetSecond)
     EXPECT_TRUE(group->isVisible());
 }
 
+TEST_F(ZELRadioGroupTest, handlesEventsBehindTheOperationsOfAComponent)
+{
+    EXPECT_EQ(Group::slotOfEvent(), slot(&ZELComponent::getQWidget) + slotSize);
+}
+
 TEST_F(ZELRadioGroupTest, startsWithNothingSelected)
 {
     Group* const group = abc();
@@ -92,14 +51,18 @@ TEST_F(ZELRadioGroupTest, startsWithNothingSelected)
 
 TEST_F(ZELRadioGroupTest, buildsAndShowsItsButtonsOnItself)
 {
-    Group* const group = abc();
-    EXPECT_EQ(group->getComponentCount(), 3);
+    Group group(&panel(), "grp", "ZELRadioGroup", element(abcElement()));
+    EXPECT_EQ(group.getComponentCount(), 3);
     for (const char* id : {"a", "b", "c"}) {
-        ASSERT_NE(group->button(id), nullptr) << id;
-        EXPECT_EQ(group->button(id)->parentWidget(), group) << id;
-        EXPECT_TRUE(group->button(id)->isVisible()) << id;
+        ASSERT_NE(group.button(id), nullptr) << id;
+        EXPECT_EQ(group.button(id)->parentWidget(), &group) << id;
+        // before the group is shown, which takes children along that nobody has shown
+        EXPECT_TRUE(group.button(id)->testAttribute(Qt::WA_WState_ExplicitShowHide)) << id;
+        EXPECT_TRUE(group.button(id)->isVisibleTo(&group)) << id;
     }
-    EXPECT_EQ(group->button("b")->geometry(), QRect(60, 0, 60, 40));
+    group.showWindow();
+    EXPECT_TRUE(group.button("a")->isVisible());
+    EXPECT_EQ(group.button("b")->geometry(), QRect(60, 0, 60, 40));
 }
 
 TEST_F(ZELRadioGroupTest, makesItsButtonsBeforeItReadsItsOwnPlace)
@@ -166,170 +129,6 @@ TEST_F(ZELRadioGroupTest, takesItsButtonsAnew)
     group->setButtonSelect(3);
     EXPECT_TRUE(added->m_bChecked);
     EXPECT_EQ(checked(group), "d");
-}
-
-// ---- clicks
-
-TEST_F(ZELRadioGroupTest, aTapChecksOneAndThenUnchecksTheOther)
-{
-    Group* const group = abc();
-    Touch::tap(group->button("a"));
-    panel().take();
-    Touch::press(group->button("b"));
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(1, 1), QPointF(1, 1), Qt::LeftButton,
-                        Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(group->button("b"), &release);
-    EXPECT_EQ(checked(group), "ab") << "until the group has its event";
-    EXPECT_EQ(group->m_strSelected, "a");
-    const RecordedEvent click = panel().takeOne();
-    EXPECT_EQ(checked(group), "b");
-    EXPECT_EQ(group->m_strSelected, "b");
-    EXPECT_EQ(group->getSelectedButton(), group->button("b"));
-    EXPECT_EQ(click.type, EVENT_MOUSE_UP);
-    EXPECT_EQ(click.classType, "ZELEvent");
-    EXPECT_EQ(click.sender, group->button("b"));
-    EXPECT_EQ(click.id, "");
-}
-
-TEST_F(ZELRadioGroupTest, thePageSeesTheSelectionAlreadyMade)
-{
-    class Page : public QWidget
-    {
-    public:
-        Group* m_group = nullptr;
-        std::string m_seen;
-
-    protected:
-        bool event(QEvent* event) override
-        {
-            if (event->type() == EVENT_MOUSE_UP && m_group->getSelectedButton())
-                m_seen = m_group->getSelectedButton()->m_strID + checked(m_group);
-            return QWidget::event(event);
-        }
-    } page;
-    Group* const group = abc();
-    group->setParent(&page);
-    page.m_group = group;
-    Touch::tap(group->button("a"));
-    EventLoop::deliver();
-    EXPECT_EQ(page.m_seen, "aa");
-    Touch::tap(group->button("c"));
-    EventLoop::deliver();
-    EXPECT_EQ(page.m_seen, "cc");
-}
-
-TEST_F(ZELRadioGroupTest, aTapOnTheCheckedButtonIsStillTold)
-{
-    Group* const group = abc();
-    Touch::tap(group->button("a"));
-    panel().take();
-    Touch::tap(group->button("a"));
-    EXPECT_EQ(panel().takeOne().sender, group->button("a"));
-    EXPECT_EQ(checked(group), "a");
-}
-
-TEST_F(ZELRadioGroupTest, longPressTicksStopAtTheGroup)
-{
-    Group* const group = abc();
-    EventRecorder atGroup;
-    atGroup.listenAt(group);
-    group->button("a")->setLongPress(true);
-    Touch::press(group->button("a"));
-    for (QObject* child : group->button("a")->children()) {
-        if (auto* const timer = dynamic_cast<Components::Timer*>(child)) {
-            QTimerEvent round(1);
-            QCoreApplication::sendEvent(timer, &round);
-        }
-    }
-    EXPECT_EQ(atGroup.takeTypes(), Types{EVENT_LONG_PRESS});
-    EXPECT_EQ(panel().takeTypes(), Types{});
-    Touch::release(group->button("a"));
-    EXPECT_EQ(panel().takeTypes(), Types{EVENT_MOUSE_UP});
-}
-
-TEST_F(ZELRadioGroupTest, whatItGetsGoesOnToTheWidget)
-{
-    Group* const group = abc();
-    for (const int type : {1552, 1557, 1571, 1572, 2000}) {
-        ZELEvent event(QEvent::Type(type), group->button("a"), "a");
-        EXPECT_TRUE(QCoreApplication::sendEvent(group, &event)) << type;
-    }
-    EXPECT_EQ(panel().takeTypes(), Types{EVENT_MOUSE_UP});
-}
-
-TEST_F(ZELRadioGroupTest, aLabelInsideBecomesTheSelectedOneAndNoButtonIs)
-{
-    Group* const group = abc("<label><text title='t' style='normal'>"
-                             "<position x='200' y='0' width='60' height='40'/></text></label>");
-    group->setButtonSelect("b");
-    ZELComponent* const label = group->getSubComponent("text");
-    Touch::tap(label->getQWidget());
-    const RecordedEvent click = panel().takeOne();
-    EXPECT_EQ(click.sender, label->getQWidget());
-    EXPECT_EQ(click.id, "");
-    EXPECT_EQ(group->m_strSelected, "text");
-    EXPECT_EQ(checked(group), "");
-    EXPECT_EQ(group->getSelectedButton(), nullptr);
-}
-
-TEST_F(ZELRadioGroupTest, aGroupInsideAGroupHandsItsClickOn)
-{
-    auto* const outer =
-        make<Group>("<outer><position width='400' height='60'/><radiobutton>" + button("a", 0) +
-                    "</radiobutton><radiogroup><inner><position x='100' width='200' "
-                    "height='60'/><radiobutton>" +
-                    button("x", 0) + "</radiobutton></inner></radiogroup></outer>");
-    outer->setButtonSelect("a");
-    auto* const inner = static_cast<ZELRadioGroup*>(outer->getSubComponent("inner"));
-    ZELComponent* const x = inner->getSubComponent("x");
-    Touch::tap(x->getQWidget());
-    EXPECT_EQ(panel().takeOne().sender, x->getQWidget());
-    EXPECT_EQ(inner->getSelectedButton(), x);
-    EXPECT_EQ(outer->m_strSelected, "x");
-    EXPECT_EQ(checked(outer), "");
-}
-
-TEST_F(ZELRadioGroupTest, aSenderThatIsGoneIsNotTouched)
-{
-    Group* const group = abc();
-    group->setButtonSelect("b");
-    auto* const gone = new QWidget;
-    QCoreApplication::postEvent(group, new ZELEvent(EVENT_MOUSE_UP, gone, "a"));
-    delete gone;
-    log().expectError("[event] grp does not hold the sender", 1, "ZELRadioGroup");
-    const RecordedEvent click = panel().takeOne();
-    EXPECT_EQ(click.sender, gone);
-    EXPECT_EQ(click.id, "");
-    EXPECT_EQ(checked(group), "b");
-}
-
-TEST_F(ZELRadioGroupTest, anEventWithoutASenderSelectsNothingAndGoesOn)
-{
-    Group* const group = abc();
-    group->setButtonSelect("b");
-    QCoreApplication::postEvent(group, new ZELEvent(EVENT_MOUSE_UP, "a"));
-    EXPECT_EQ(panel().takeOne().sender, nullptr);
-    EXPECT_EQ(checked(group), "b");
-    EXPECT_EQ(group->m_strSelected, "b");
-}
-
-TEST_F(ZELRadioGroupTest, anEventOfAnotherClassUnderTheSameNumberIsToldAndGoesNoFurther)
-{
-    Group* const group = abc();
-    log().expectError("[event] grp got an event 1552 that is no ZELEvent", 1, "ZELRadioGroup");
-    QCoreApplication::postEvent(group, new QEvent(EVENT_MOUSE_UP));
-    EXPECT_EQ(panel().takeTypes(), Types{});
-}
-
-TEST_F(ZELRadioGroupTest, eventButtonPressLeavesTheButtonItselfAlone)
-{
-    Group* const group = abc();
-    group->setButtonSelect("b");
-    group->eventButtonPress(group->button("a"));
-    EXPECT_EQ(group->m_strSelected, "a");
-    EXPECT_EQ(checked(group), "");
-    group->eventButtonPress(nullptr);
-    EXPECT_EQ(group->m_strSelected, "a");
 }
 
 // ---- selection by call
@@ -402,29 +201,77 @@ TEST_F(ZELRadioGroupTest, dimsAllButtonsAndClearsThemWhenAsked)
     EXPECT_TRUE(group->button("a")->isEnabled());
 }
 
-TEST_F(ZELRadioGroupTest, aTouchOnADimButtonFallsThroughAndSelectsNothing)
+TEST_F(ZELRadioGroupTest, aButtonFromElsewhereLendsItsIdAndUnchecksTheRest)
 {
     Group* const group = abc();
-    group->setDimMode(true, false);
-    Touch::tapWindow(group->button("a"));
-    EXPECT_EQ(panel().takeTypes(), Types{});
+    group->setButtonSelect("b");
+    auto* const foreign = make<ZELRadioButton>(button("c", 300));
+    group->setButtonSelect(foreign);
+    EXPECT_EQ(group->m_strSelected, "c");
     EXPECT_EQ(checked(group), "");
+    EXPECT_FALSE(foreign->m_bChecked) << "it is not in the table";
+    EXPECT_EQ(group->getSelectedButton(), group->button("c")) << "the group's own of that id";
 }
 
-TEST_F(ZELRadioGroupTest, goesWithItsButtonsWhileAClickIsQueued)
+TEST_F(ZELRadioGroupTest, ofTwoButtonsWithOneIdTheLaterStandsAtThePlaceOfTheFirst)
+{
+    auto* const group =
+        make<Group>("<grp><position width='400' height='60'/><radiobutton>" + button("a", 0) +
+                    button("b", 60) + button("a", 120) + "</radiobutton></grp>");
+    auto* const first = static_cast<ZELRadioButton*>(group->ZELComponent::getSubComponent(0));
+    auto* const later = static_cast<ZELRadioButton*>(group->ZELComponent::getSubComponent(2));
+    EXPECT_EQ(group->m_buttons.getCount(), 2);
+    group->setButtonSelect(0);
+    EXPECT_TRUE(later->m_bChecked);
+    EXPECT_FALSE(first->m_bChecked);
+    EXPECT_EQ(group->getSelectedButton(), later);
+    Touch::tap(first);
+    EXPECT_EQ(panel().takeOne().sender, first);
+    EXPECT_TRUE(first->m_bChecked);
+    EXPECT_FALSE(later->m_bChecked);
+    Touch::tap(group->button("b"));
+    panel().take();
+    EXPECT_TRUE(first->m_bChecked) << "what is not in the table is not unchecked";
+}
+
+// ---- a button that the application deletes under the group
+
+TEST_F(ZELRadioGroupTest, aDeletedButtonIsNotTouchedAgain)
 {
     Group* const group = abc();
-    Touch::tap(group->button("a"));
-    delete group;
-    EXPECT_EQ(panel().takeTypes(), Types{});
+    ZELRadioButton* const c = group->button("c");
+    group->setButtonSelect("b");
+    delete group->button("b");
+    EXPECT_EQ(group->getSelectedButton(), nullptr);
+    group->setButtonSelect(1);
+    group->setButtonSelect("b");
+    EXPECT_EQ(group->m_strSelected, "b");
+    group->setDimMode(true, true);
+    group->setDimMode(false, false);
+    group->setSelectClear();
+    group->hideSubComponent();
+    group->showSubComponent();
+    EXPECT_EQ(group->button("b"), nullptr);
+    EXPECT_EQ(group->getComponentCount(), 3);
+    EXPECT_EQ(group->ZELComponent::getSubComponent(2), c) << "the others keep their numbers";
+
+    Touch::tap(c);
+    EXPECT_EQ(panel().takeOne().sender, c);
+    EXPECT_EQ(group->getSelectedButton(), c);
+    group->addButton();
+    EXPECT_EQ(group->m_buttons.getCount(), 2);
+    EXPECT_EQ(group->getSelectedButton(), c);
 }
 
-TEST_F(ZELRadioGroupTest, withoutAParentAClickIsTold)
+TEST_F(ZELRadioGroupTest, aDeletedButtonsLastClickIsToldAndSelectsNothing)
 {
-    Group group(nullptr, "grp", "ZELRadioGroup",
-                element("<grp><radiobutton>" + button("a", 0) + "</radiobutton></grp>"));
-    log().expectError("[event] grp has no parent", 1, "ZELRadioGroup");
-    Touch::tap(group.button("a"));
-    EventLoop::deliver();
-    EXPECT_EQ(group.m_strSelected, "a");
+    Group* const group = abc();
+    group->setButtonSelect("a");
+    ZELRadioButton* const b = group->button("b");
+    Touch::tap(b);
+    delete b; // its click is on its way to the group already
+    log().expectError("[event] grp does not hold the sender", 1, "ZELRadioGroup");
+    EXPECT_EQ(panel().takeTypes(), Types{EVENT_MOUSE_UP});
+    EXPECT_EQ(group->m_strSelected, "a");
+    EXPECT_TRUE(group->button("a")->m_bChecked);
 }
