@@ -5,9 +5,8 @@
 #include "common/tamfx/ConfigurationManager.h"
 #include "common/tamfx/FileProperty.h"
 
-#include <QString>
-
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 #include <utility>
 
@@ -24,6 +23,8 @@ constexpr const char* defaultBasePath = "/app/bin/resource/";
 
 constexpr const char* languageKey = "Language";
 constexpr const char* resourcePathKey = "ResourcePath";
+
+constexpr const char* lineFeed = "\\n"; // as a text writes it: a backslash and an n
 
 bool isLocale(const std::string& locale)
 {
@@ -127,12 +128,12 @@ std::string ZELResourceMgr::getLocaleString(std::string strText)
 {
     if (strText.empty())
         return {};
-    std::string text =
-        strText.front() == '@' ? m_stringMgr.getLocaleString(strText.substr(1)) : strText;
-    // as bytes, so that UTF-8 comes out as it went in; the result ends at the first NUL
-    QString line = QString::fromLatin1(text.c_str());
-    line.replace(QLatin1String("\\n"), QLatin1String("\n"));
-    return line.toLatin1().constData();
+    std::string text = strText.front() == '@' ? m_stringMgr.getLocaleString(strText.substr(1))
+                                              : std::move(strText);
+    text.resize(std::strlen(text.c_str())); // the text to show ends at the first NUL
+    for (size_t at = text.find(lineFeed); at != std::string::npos; at = text.find(lineFeed, at + 1))
+        text.replace(at, std::strlen(lineFeed), "\n");
+    return text;
 }
 
 } // namespace PANFx::Resource

@@ -19,6 +19,8 @@ using TAMFx::Common::Xml::XmlDocument;
 
 namespace {
 
+constexpr const char* rowName = "String";
+constexpr const char* keyName = "key";
 constexpr int defaultColumn = 1;
 
 int columnOf(const std::string& locale)
@@ -55,6 +57,7 @@ bool ZELStringMgr::changeLocale(std::string strLocale)
     const int column = columnOf(strLocale);
 
     XmlDocument document;
+    document.setColumn(rowName, keyName, column);
     try {
         if (!document.LoadXMLFile(Common::systemPath(path).c_str())) {
             m_logger.WriteError("[%s] Cannot access layout file: %s", "changeLocale", path.c_str());
@@ -65,15 +68,15 @@ bool ZELStringMgr::changeLocale(std::string strLocale)
                             exception->GetMessage());
         return false;
     }
-    const std::unique_ptr<NodeList> entries(document.getNodeListByName("String"));
+    const std::unique_ptr<NodeList> entries(document.getNodeListByName(rowName));
     if (!entries) {
         m_logger.WriteError("[%s] m_xmlDoc.getNodeListByName(\"String\") == NULL", "changeLocale");
         return false;
     }
     for (int i = 0; i < entries->getNodeCount(); ++i) {
         Node* entry = entries->getNode(i);
-        Attribute* key = entry ? entry->getAttributeByName("key") : nullptr;
-        Node* text = key ? entry->getChildNode(column) : nullptr;
+        Attribute* key = entry ? entry->getAttributeByName(keyName) : nullptr;
+        Node* text = key ? entry->getChildNode(0) : nullptr;
         if (!text)
             continue;
         if (*text->getValue() != '\0')

@@ -4,10 +4,13 @@
 
 #include <climits>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <string>
 
 using PANFx::Common::toDouble;
+using PANFx::Common::toFixed;
 using PANFx::Common::toInt;
 using PANFx::Testing::DecimalComma;
 
@@ -81,4 +84,49 @@ TEST(Numbers, haveADecimalPointWhateverTheLocaleSays)
     EXPECT_EQ(toDouble("3,5"), 3.0);
     EXPECT_EQ(toDouble("1.234.567"), 1.234);
     EXPECT_EQ(toInt("1.234"), 1);
+}
+
+TEST(Numbers, areWrittenInFixedNotation)
+{
+    EXPECT_EQ(toFixed(5, 2), "5.00");
+    EXPECT_EQ(toFixed(1.26, 1), "1.3");
+    EXPECT_EQ(toFixed(0.5, 0), "0");
+    EXPECT_EQ(toFixed(1.5, 0), "2");
+    EXPECT_EQ(toFixed(-3.14159, 3), "-3.142");
+    EXPECT_EQ(toFixed(-0.0, 1), "-0.0");
+    EXPECT_EQ(toFixed(1e21, 0), "1000000000000000000000");
+}
+
+TEST(Numbers, areWrittenWithSixPlacesForANegativeNumberOfThem)
+{
+    EXPECT_EQ(toFixed(1.5, -1), "1.500000");
+    EXPECT_EQ(toFixed(2, INT_MIN), "2.000000");
+}
+
+TEST(Numbers, areWrittenWholeHoweverLong)
+{
+    EXPECT_EQ(toFixed(1e300, 2).size(), 301u + 3);
+    EXPECT_EQ(toFixed(-1.7976931348623157e308, 1100).size(), 1u + 309 + 1 + 1100);
+    EXPECT_EQ(toFixed(0.25, 1100), "0.25" + std::string(1098, '0'));
+    EXPECT_EQ(toFixed(0.25, 1101), toFixed(0.25, 1100));
+    EXPECT_EQ(toFixed(0.25, INT_MAX), toFixed(0.25, 1100));
+}
+
+TEST(Numbers, thatAreNoneAreWrittenAsTheCLibraryDoes)
+{
+    EXPECT_EQ(toFixed(HUGE_VAL, 2), "inf");
+    EXPECT_EQ(toFixed(-HUGE_VAL, 2), "-inf");
+    EXPECT_EQ(toFixed(std::nan(""), 2), "nan");
+}
+
+TEST(Numbers, areWrittenWithADecimalPointAndLeaveTheLocaleAsItWas)
+{
+    const DecimalComma comma;
+    if (!comma.active())
+        GTEST_SKIP() << "this system has no localedef";
+    EXPECT_EQ(toFixed(3.5, 1), "3.5");
+    EXPECT_EQ(toFixed(1234567.5, 1), "1234567.5");
+    char text[8];
+    std::snprintf(text, sizeof text, "%.1f", 3.5);
+    EXPECT_STREQ(text, "3,5");
 }

@@ -24,6 +24,19 @@ struct Node::Added
     std::vector<T*> entries;
 };
 
+// A page looks up its attributes by the thousand, and most differ in the first character.
+template <class T, class Entries>
+T* Node::findByName(const Entries& entries, bool bAdded, unsigned nCount, const char* pszName)
+{
+    for (unsigned i = 0; pszName && i < nCount; ++i) {
+        T* pEntry = bAdded ? entries.pAdded->entries[i] : entries.pBlock + i;
+        const char* pszEntry = pEntry->getName();
+        if (*pszEntry == *pszName && std::strcmp(pszEntry, pszName) == 0)
+            return pEntry;
+    }
+    return nullptr;
+}
+
 Node::Node(const char* pszName)
     : Node(FromFile(), copyOfText(pszName).release())
 {
@@ -87,22 +100,12 @@ Node* Node::getChildNode(int nIndex) const
 
 Node* Node::getNodeByName(const char* pszName) const
 {
-    for (int i = 0; pszName && i < getChildNodeSize(); ++i) {
-        Node* pChild = getChildNode(i);
-        if (std::strcmp(pChild->getName(), pszName) == 0)
-            return pChild;
-    }
-    return nullptr;
+    return findByName<Node>(m_children, m_bChildrenAdded, m_nChildren, pszName);
 }
 
 Attribute* Node::getAttributeByName(const char* pszName) const
 {
-    for (int i = 0; pszName && i < getAttributeSize(); ++i) {
-        Attribute* pAttribute = getAttribute(i);
-        if (std::strcmp(pAttribute->getName(), pszName) == 0)
-            return pAttribute;
-    }
-    return nullptr;
+    return findByName<Attribute>(m_attributes, m_bAttributesAdded, m_nAttributes, pszName);
 }
 
 Attribute* Node::getAttribute(int nIndex) const

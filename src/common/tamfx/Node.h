@@ -80,6 +80,9 @@ private:
     template <class T>
     struct Added;
 
+    template <class T, class Entries>
+    static T* findByName(const Entries& entries, bool bAdded, unsigned nCount, const char* pszName);
+
     Node* takeLastAddedChild();
     void releaseAttributes();
 

@@ -1,7 +1,7 @@
 #include "common/tamfx/XmlDocument.h"
 
-#include "common/tamfx/FileAccess.h"
 #include "common/tamfx/NodeList.h"
+#include "common/tamfx/XmlColumn.h"
 #include "common/tamfx/XmlTreeBuilder.h"
 
 #include <cstring>
@@ -28,17 +28,21 @@ bool XmlDocument::LoadXMLFile(const char* pszPath)
     const std::string strPath = pszPath ? pszPath : "";
     removeAll();
     try {
-        std::string strContent;
-        if (readFile(strPath, strContent) != 0)
-            return false;
-        const std::string strName = strPath.substr(strPath.rfind('/') + 1);
-        XmlTreeBuilder::build(strName.c_str(), strContent, *this);
-        return true;
+        if (m_pszRow)
+            return XmlTreeBuilder::build(strPath, XmlColumn(m_pszRow, m_pszKey, m_nColumn), *this);
+        return XmlTreeBuilder::build(strPath, *this);
     } catch (const std::bad_alloc&) {
         // a damaged file can be larger than the memory of a small board
         removeAll();
         return false;
     }
+}
+
+void XmlDocument::setColumn(const char* pszRow, const char* pszKey, int nColumn)
+{
+    m_pszRow = pszRow;
+    m_pszKey = pszKey;
+    m_nColumn = nColumn;
 }
 
 NodeList* XmlDocument::getNodeListByName(const char* pszName) const

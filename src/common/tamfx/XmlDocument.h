@@ -34,6 +34,18 @@ public:
     bool LoadXMLFile(const char* pszPath);
 
     /**
+     * Lets the loads from now on keep one column of a table and forget the rest, for files of
+     * which no more is wanted. Rows are the elements of one name that have a key, wherever they
+     * stand in the file. The document then has a root without a name; its children are the rows
+     * in document order, with their key alone, and a row has one child without a name, the column,
+     * or none where the file has none. What is refused in a file stays the same.
+     * @param pszRow name of the rows; it must outlive the loads, as must the next
+     * @param pszKey name of the attribute that holds the key
+     * @param nColumn position of the column among a row's child elements, counted from 0
+     */
+    void setColumn(const char* pszRow, const char* pszKey, int nColumn);
+
+    /**
      * All elements of that name, compared exactly, in document order, the root included; an empty
      * list when there is none. Null when the document is empty. The caller deletes the list.
      */
@@ -50,6 +62,9 @@ private:
 
     Node* m_pNodes = nullptr; ///< begin of the one piece of memory: all elements of the file
     std::size_t m_nNodes = 0;
+    const char* m_pszRow = nullptr; ///< null without a column, as is the next
+    const char* m_pszKey = nullptr;
+    int m_nColumn = 0;
 };
 
 } // namespace TAMFx::Common::Xml

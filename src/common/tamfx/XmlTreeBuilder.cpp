@@ -1,170 +1,170 @@
 #include "common/tamfx/XmlTreeBuilder.h"
 
+#include "common/tamfx/XmlColumn.h"
 #include "common/tamfx/XmlDocument.h"
-#include "common/tamfx/XmlOutline.h"
-#include "common/tamfx/XmlSource.h"
+#include "common/tamfx/XmlParser.h"
 
+#include <array>
 #include <cstring>
+#include <memory>
 #include <new>
-#include <pugixml.hpp>
-#include <string_view>
 #include <vector>
 
 namespace TAMFx::Common::Xml {
 
 namespace {
 
-// White space is kept, since a text of one blank counts; text outside the root is kept, so that
-// it can be refused.
-constexpr unsigned parseFlags = pugi::parse_cdata | pugi::parse_escapes | pugi::parse_eol |
-                                pugi::parse_wconv_attribute | pugi::parse_ws_pcdata |
-                                pugi::parse_fragment;
-
-XmlSource::Encoding encodingOf(const pugi::xml_parse_result& result)
-{
-    switch (result.encoding) {
-    case pugi::encoding_utf16_le:
-        return XmlSource::Encoding::Utf16Little;
-    case pugi::encoding_utf16_be:
-        return XmlSource::Encoding::Utf16Big;
-    case pugi::encoding_utf32_le:
-        return XmlSource::Encoding::Utf32Little;
-    case pugi::encoding_utf32_be:
-        return XmlSource::Encoding::Utf32Big;
-    case pugi::encoding_latin1:
-        return XmlSource::Encoding::Latin1;
-    default:
-        return XmlSource::Encoding::Utf8;
-    }
-}
+// Guesses that save most of the growing.
+constexpr std::size_t bytesOfAnElement = 64;
+constexpr std::size_t attributesOfAnElement = 4;
 
 } // namespace
 
 /**
- * Writes the tree into one piece of memory: first all elements, the children of each side by
- * side, then all attributes, then all texts.
+ * Notes the elements of a walk, and writes them into one piece of memory once their number is
+ * known: first all elements, the children of each side by side, then all attributes, then all
+ * texts, where attributes of one name share it.
  */
-class XmlTreeBuilder::Filler
+class XmlTreeBuilder::Filler : public XmlWalk::Visitor
 {
 public:
-    explicit Filler(const XmlOutline& outline);
+    void begin(std::size_t nBytes) override;
+    void visit(const XmlWalk::Element& element) override;
 
     /** Gives the root element, which is the begin of the piece of memory. */
-    Node* fill();
+    Node* fill() const;
+
+    std::size_t count() const { return m_elements.size(); }
 
 private:
-    void fillElement(Node* pNode, const XmlOutline::Element& element);
-    void fillText(Node& node, const XmlOutline::Element& element);
-    const char* copy(std::string_view text);
-    void append(std::string_view text);
+    /** Texts are offsets in the texts, elements and attributes are places. */
+    struct NotedElement
+    {
+        std::size_t nName;
+        std::size_t nText;
+        std::size_t nFirstChild;
+        std::size_t nChildren;
+        std::size_t nFirstAttribute;
+        std::size_t nAttributes;
+    };
 
-    const XmlOutline& m_outline;
-    std::vector<Node*> m_nextChildren; ///< of each element so far: the place of its next child
-    Node* m_pNodes;
-    Node* m_pFreeNode;
-    Attribute* m_pFreeAttribute;
-    char* m_pFreeText;
+    struct NotedAttribute
+    {
+        std::size_t nName;
+        std::size_t nValue;
+    };
+
+    std::size_t note(const char* pszText);
+    std::size_t noteName(const char* pszName);
+
+    std::vector<NotedElement> m_elements;
+    std::vector<NotedAttribute> m_attributes;
+    std::unique_ptr<char[]> m_pTexts; ///< begin with the empty one
+    std::size_t m_nTexts = 0;
+    std::array<std::size_t, XmlWalk::maximumDepth + 1> m_nextChildren; ///< places, by depth
+    std::array<std::size_t, 64> m_names; ///< where names came last, by their first characters
 };
 
-XmlTreeBuilder::Filler::Filler(const XmlOutline& outline)
-    : m_outline(outline)
+void XmlTreeBuilder::Filler::begin(std::size_t nBytes)
 {
-    const std::size_t nNodes = outline.elements().size();
-    const std::size_t nAttributes = outline.attributes().size();
-    const auto sizeOf = [](std::string_view text) { return text.empty() ? 0 : text.size() + 1; };
-    std::size_t nTexts = 0;
-    for (const XmlOutline::Element& element : outline.elements())
-        nTexts += sizeOf(element.name) + (element.hasText() ? element.nText + 1 : 0);
-    for (const XmlOutline::Attribute& attribute : outline.attributes())
-        nTexts += sizeOf(attribute.name) + sizeOf(attribute.value);
-
-    m_nextChildren.reserve(nNodes);
-    m_pNodes = static_cast<Node*>(
-        ::operator new(nNodes * sizeof(Node) + nAttributes * sizeof(Attribute) + nTexts));
-    m_pFreeNode = m_pNodes;
-    m_pFreeAttribute = reinterpret_cast<Attribute*>(m_pNodes + nNodes);
-    m_pFreeText = reinterpret_cast<char*>(m_pFreeAttribute + nAttributes);
+    const std::size_t nGuess = nBytes / bytesOfAnElement;
+    m_elements.clear();
+    m_elements.reserve(nGuess);
+    m_elements.resize(1); // the root has its place
+    m_attributes.clear();
+    m_attributes.reserve(attributesOfAnElement * nGuess);
+    m_pTexts.reset(new char[nBytes + 1]);
+    m_pTexts[0] = '\0';
+    m_nTexts = 1;
+    m_nextChildren[0] = 0;
+    m_names.fill(0);
 }
 
-Node* XmlTreeBuilder::Filler::fill()
+void XmlTreeBuilder::Filler::visit(const XmlWalk::Element& element)
 {
-    for (const XmlOutline::Element& element : m_outline.elements()) {
-        const bool bRoot = element.nParent < 0;
-        fillElement(bRoot ? m_pFreeNode++
-                          : m_nextChildren[static_cast<std::size_t>(element.nParent)]++,
-                    element);
+    const std::size_t nChildren = m_elements.size();
+    m_elements.resize(nChildren + element.nChildren);
+    NotedElement& noted = m_elements[m_nextChildren[element.nDepth]++];
+    m_nextChildren[element.nDepth + 1] = nChildren;
+    noted = {note(element.pszName), note(element.pszText), nChildren,
+             element.nChildren,     m_attributes.size(),   element.nAttributes};
+    for (std::size_t i = 0; i < element.nAttributes; ++i) {
+        const XmlWalk::Attribute& attribute = element.pAttributes[i];
+        const std::size_t nName = noteName(attribute.pszName);
+        m_attributes.push_back({nName, note(attribute.pszValue)});
     }
-    return m_pNodes;
 }
 
-void XmlTreeBuilder::Filler::fillElement(Node* pNode, const XmlOutline::Element& element)
+std::size_t XmlTreeBuilder::Filler::note(const char* pszText)
 {
-    new (pNode) Node(Node::FromFile(), copy(element.name));
-    pNode->m_bOwned = true;
-    pNode->m_children.pBlock = m_pFreeNode;
-    pNode->m_nChildren = static_cast<unsigned>(element.nChildren);
-    m_nextChildren.push_back(m_pFreeNode);
-    m_pFreeNode += element.nChildren;
+    if (*pszText == '\0')
+        return 0;
+    const std::size_t nBegin = m_nTexts;
+    const char* pEnd = stpcpy(m_pTexts.get() + nBegin, pszText);
+    m_nTexts = static_cast<std::size_t>(pEnd - m_pTexts.get()) + 1;
+    return nBegin;
+}
 
-    const XmlOutline::Attribute* pAttribute =
-        m_outline.attributes().data() + element.nFirstAttribute;
-    pNode->m_attributes.pBlock = m_pFreeAttribute;
-    for (int i = 0; i < element.nAttributes; ++i, ++pAttribute) {
-        const char* pszName = copy(pAttribute->name);
-        new (m_pFreeAttribute++) Attribute(Attribute::FromFile(), pszName, copy(pAttribute->value));
-        ++pNode->m_nAttributes;
+std::size_t XmlTreeBuilder::Filler::noteName(const char* pszName)
+{
+    const auto nMix = 3u * static_cast<unsigned char>(pszName[0]) +
+                      static_cast<unsigned char>(pszName[pszName[0] == '\0' ? 0 : 1]);
+    std::size_t& nKnown = m_names[nMix % m_names.size()];
+    if (std::strcmp(m_pTexts.get() + nKnown, pszName) != 0)
+        nKnown = note(pszName);
+    return nKnown;
+}
+
+Node* XmlTreeBuilder::Filler::fill() const
+{
+    const std::size_t nNodes = m_elements.size();
+    const std::size_t nAttributes = m_attributes.size();
+    auto* pNodes = static_cast<Node*>(
+        ::operator new(nNodes * sizeof(Node) + nAttributes * sizeof(Attribute) + m_nTexts));
+    auto* pAttributes = reinterpret_cast<Attribute*>(pNodes + nNodes);
+    auto* pTexts = reinterpret_cast<char*>(pAttributes + nAttributes);
+    std::memcpy(pTexts, m_pTexts.get(), m_nTexts);
+    for (std::size_t i = 0; i < nAttributes; ++i) {
+        const NotedAttribute& noted = m_attributes[i];
+        new (pAttributes + i)
+            Attribute(Attribute::FromFile(), pTexts + noted.nName, pTexts + noted.nValue);
     }
-    if (element.hasText())
-        fillText(*pNode, element);
-}
-
-void XmlTreeBuilder::Filler::fillText(Node& node, const XmlOutline::Element& element)
-{
-    node.m_pszValue = m_pFreeText;
-    for (int i = element.nFirstPiece; i >= 0;) {
-        const XmlOutline::Piece& piece = m_outline.pieces()[static_cast<std::size_t>(i)];
-        append(piece.text);
-        i = piece.nNext;
+    for (std::size_t i = 0; i < nNodes; ++i) {
+        const NotedElement& noted = m_elements[i];
+        Node* pNode = new (pNodes + i) Node(Node::FromFile(), pTexts + noted.nName);
+        pNode->m_pszValue = pTexts + noted.nText;
+        pNode->m_bOwned = true;
+        pNode->m_children.pBlock = pNodes + noted.nFirstChild;
+        pNode->m_nChildren = static_cast<unsigned>(noted.nChildren);
+        pNode->m_attributes.pBlock = pAttributes + noted.nFirstAttribute;
+        pNode->m_nAttributes = static_cast<unsigned>(noted.nAttributes) & 0xFFFFFFF;
     }
-    *m_pFreeText++ = '\0';
+    return pNodes;
 }
 
-const char* XmlTreeBuilder::Filler::copy(std::string_view text)
+bool XmlTreeBuilder::build(const std::string& strPath, XmlDocument& document)
 {
-    if (text.empty())
-        return "";
-    const char* pszCopy = m_pFreeText;
-    append(text);
-    *m_pFreeText++ = '\0';
-    return pszCopy;
+    Filler filler;
+    return XmlParser::parseFile(strPath, filler) && fill(filler, document);
 }
 
-void XmlTreeBuilder::Filler::append(std::string_view text)
+bool XmlTreeBuilder::build(const std::string& strPath, XmlColumn column, XmlDocument& document)
 {
-    std::memcpy(m_pFreeText, text.data(), text.size());
-    m_pFreeText += text.size();
+    if (!XmlParser::parseFile(strPath, column))
+        return false;
+    Filler filler;
+    column.handOver(filler);
+    return fill(filler, document);
 }
 
-void XmlTreeBuilder::build(const char* pszFileName, const std::string& strContent,
-                           XmlDocument& document)
+bool XmlTreeBuilder::fill(const Filler& filler, XmlDocument& document)
 {
-    pugi::xml_document file;
-    const pugi::xml_parse_result result =
-        file.load_buffer(strContent.data(), strContent.size(), parseFlags);
-    const XmlSource source(strContent, encodingOf(result));
-    XmlOutline outline(pszFileName, source);
-    const auto nNul = source.text().find('\0');
-    if (nNul != std::string_view::npos)
-        outline.fail(nNul, "NUL character");
-    if (!result)
-        outline.fail(static_cast<std::size_t>(result.offset), result.description());
-    outline.read(file);
-
-    document.m_pNodes = Filler(outline).fill();
-    document.m_nNodes = outline.elements().size();
+    document.m_pNodes = filler.fill();
+    document.m_nNodes = filler.count();
     Node& parent = document;
     parent.m_children.pBlock = document.m_pNodes;
     parent.m_nChildren = 1;
+    return true;
 }
 
 } // namespace TAMFx::Common::Xml

@@ -1,5 +1,5 @@
-// Also covers what only a document uses: XmlTreeBuilder and XmlOutline. XmlSource, which tells
-// where a fault stands, is covered by XmlExceptionTest.
+// Also covers what only a document uses: XmlTreeBuilder, XmlParser, XmlWalk and XmlColumn.
+// XmlSource, which tells where a fault stands, is covered by XmlExceptionTest.
 
 #include "common/tamfx/XmlDocument.h"
 
@@ -66,6 +66,30 @@ protected:
         for (int i = 0; i < list->getNodeCount(); ++i)
             numbers += list->getNode(i)->getAttributeByName("n")->getValue();
         return numbers;
+    }
+
+    /** An element with all that is in it: name, attributes, text in marks, children. */
+    static std::string dump(const Node& node)
+    {
+        std::string text = std::string("<") + node.getName();
+        for (int i = 0; i < node.getAttributeSize(); ++i)
+            text += std::string(" ") + node.getAttribute(i)->getName() + "=" +
+                    node.getAttribute(i)->getValue();
+        text += std::string("|") + node.getValue() + "|";
+        for (int i = 0; i < node.getChildNodeSize(); ++i)
+            text += dump(*node.getChildNode(i));
+        return text + ">";
+    }
+
+    /** What a file holds, or what is wrong with it. */
+    std::string outcome(const std::string& content)
+    {
+        try {
+            load(content);
+        } catch (XmlException* exception) {
+            return exception->GetMessage();
+        }
+        return dump(m_document);
     }
 
     void expectEmpty() const
@@ -275,6 +299,24 @@ TEST_F(XmlDocumentTest, JoinsATextThatCommentsAndMarkedSectionsSplit)
     EXPECT_EQ(textOf("<a> <!-- between two blanks --> </a>"), "  ");
 }
 
+// Comments keep the parser from its short way, on which it forgets the blanks between elements.
+TEST_F(XmlDocumentTest, HoldsTheSameWithAndWithoutACommentBehindTheRoot)
+{
+    for (const std::string content :
+         {"<a/>", "<a> </a>", "<a>\r\n</a>", "<a>x</a>", "<a> x </a>", "<a> <b/> </a>",
+          "<a>x<b/></a>", "<a>x <b/> </a>", "<a> <b/> x</a>", "<a><b/> x <c/> </a>", "<a>&#32;</a>",
+          "<a>&#32;<b/></a>", "<a><b/>&#32;</a>", "<a><b> </b> <b>\n</b></a>",
+          "<a><b>x</b> <b/>\n<c d='1'>y</c></a>", "<a>x<b> </b></a>", "<a b='<' c='&gt;'>&lt;</a>",
+          " <a/> ", "\xEF\xBB\xBF<a> <b/></a>", "<?xml version='1.0'?>\n<a>\n <b/>\n</a>\n",
+          "<a x='1' y='2'><b y='3' x=''/><xy yx='4'/></a>", "<a x='1' xy='2' xz='3'/>",
+          // and what is refused
+          "<a x='1' y='2' x='3'/>", "<a><b/> <c y='1' y='2'/></a>", "<a/>&#32;", "<a/> x", "x <a/>",
+          "<a/><b/>", "<a> <b></a>", "<a b=1/>"}) {
+        const std::string expected = outcome(content + "<!-- -->");
+        EXPECT_EQ(outcome(content), expected) << content;
+    }
+}
+
 TEST_F(XmlDocumentTest, ReadsAllLineEndsAsALineFeed)
 {
     EXPECT_EQ(textOf("<a>1\r\n2\r3\n4</a>"), "1\n2\n3\n4");
@@ -307,6 +349,47 @@ TEST_F(XmlDocumentTest, ReadsLineBreaksInAttributesAsBlanks)
 {
     EXPECT_EQ(attributeOf("<r a='1\n2\t3'/>"), "1 2 3");
     EXPECT_EQ(attributeOf("<r a=' \\n '/>"), " \\n ");
+}
+
+// ---- one column of a table
+
+TEST_F(XmlDocumentTest, KeepsOneColumnOfATable)
+{
+    m_document.setColumn("String", "key", 1);
+    EXPECT_EQ(outcome("<t><String key='a'><kr>1</kr><en>2</en></String></t>"),
+              "<||<||<String key=a||<|2|>>>>");
+    EXPECT_EQ(
+        outcome("<t> <String key='a'><kr>1</kr> <en>2</en><esp>3</esp></String>\n"
+                "<String id='9' key='b' more='8'>no<x/><y z='7'> 5<v>no</v></y></String></t>"),
+        "<||<||<String key=a||<|2|>><String key=b||<| 5|>>>>");
+}
+
+TEST_F(XmlDocumentTest, KeepsRowsWithoutTheColumnAndForgetsThoseWithoutTheKey)
+{
+    m_document.setColumn("row", "key", 2);
+    EXPECT_EQ(outcome("<t><row key='a'><c/><c/></row><row><c/><c/><c>1</c></row>"
+                      "<row key=''><c/><c/><c/></row><Row key='b'><c/><c/><c>2</c></Row></t>"),
+              "<||<||<row key=a||><row key=||<||>>>>");
+    EXPECT_EQ(outcome("<t/>"), "<||<||>>");
+}
+
+TEST_F(XmlDocumentTest, FindsRowsAtAnyDepthInDocumentOrder)
+{
+    m_document.setColumn("row", "key", 1);
+    EXPECT_EQ(outcome("<row key='a'><x><row key='b'><c/><c>2</c></row></x>"
+                      "<row key='c'><c/><c>3</c></row><row key='d'/></row>"),
+              "<||<||<row key=a||<||>><row key=b||<|2|>><row key=c||<|3|>><row key=d||>>>");
+    EXPECT_EQ(listOf("row")->getNodeCount(), 4);
+}
+
+TEST_F(XmlDocumentTest, RefusesTheSameFilesWithAColumn)
+{
+    const std::string twice = "<t>\n<row key='a'/><other k='' k=''/></t>";
+    const std::string fault = outcome(twice);
+    m_document.setColumn("row", "key", 0);
+    EXPECT_EQ(outcome(twice), fault);
+    expectEmpty();
+    EXPECT_FALSE(m_document.LoadXMLFile(m_folder.path("none.resource").c_str()));
 }
 
 // ---- encodings
