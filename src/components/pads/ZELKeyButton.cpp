@@ -175,10 +175,11 @@ int ZELKeyButton::stringToInt10(std::string strNumber)
 int ZELKeyButton::stringToInt16(std::string strNumber)
 {
     char* end = nullptr;
-    const unsigned long value = std::strtoul(strNumber.c_str(), &end, 16);
+    const long long value = std::strtoll(strNumber.c_str(), &end, 16); // of one size everywhere
     if (end == strNumber.c_str())
         return none;
-    return static_cast<int>(static_cast<unsigned int>(value));
+    return static_cast<int>(
+        static_cast<unsigned int>(std::clamp<long long>(value, INT_MIN, UINT_MAX)));
 }
 
 unsigned short ZELKeyButton::stringToQChar(std::string strNumber)

@@ -14,7 +14,8 @@ namespace PANFx::Components {
  * Layout: attributes "title" (the face, taken as it stands; without it the others are left out),
  * "code" and "code2" (hexadecimal, without prefix), "style", "pressstyle", "animation",
  * "longpress"; child "lang2" with "title", "title2", "code", "code2" and "index", "index2"
- * (decimal); children "image" and "position".
+ * (decimal); children "image" and "position". The position places the key and nothing more: the
+ * rest position of the push animation stays 0, 0 until setOrgPos() says otherwise.
  *
  * Posts what an image button posts.
  */
@@ -47,7 +48,7 @@ public:
     /** The number at the start of a text; -1 when there is none. */
     int stringToInt10(std::string strNumber);
 
-    /** The same for hexadecimal digits. */
+    /** The same for hexadecimal digits; ffffffff, and what has more than 32 bits, is -1 too. */
     int stringToInt16(std::string strNumber);
 
     /** The low 16 bits of the same. */

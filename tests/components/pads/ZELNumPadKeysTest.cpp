@@ -322,6 +322,17 @@ TEST_F(ZELNumPadKeysTest, closingLeavesTheFocusOfOthers)
     EXPECT_EQ(panel().takeTypes(), Types{EVENT_NUMPAD_CLOSE});
 }
 
+TEST_F(ZELNumPadKeysTest, closingLeavesAnEditThatHasTheFocusOnlyInItsOwnWindow)
+{
+    m_spy->setFocus();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(EventLoop::waitFor([this] { return !m_spy->hasFocus(); }));
+    m_pad->onClosePress(nullptr);
+    EXPECT_EQ(panel().focusWidget(), static_cast<QWidget*>(m_spy));
+}
+
 // ---- holding backspace
 
 TEST_F(ZELNumPadKeysTest, aHeldBackspaceDeletesFourTimesThenEmptiesAndDeletesAtItsRelease)
