@@ -1,6 +1,5 @@
 #include "Analyser.h"
 
-#include <QDateTime>
 #include <QString>
 
 #include <algorithm>
@@ -11,11 +10,6 @@ namespace {
 std::string number(const Analyser::Channel& channel, double dValue, int nPlaces)
 {
     return QString::number(dValue * channel.dFactor + channel.dOffset, 'f', nPlaces).toStdString();
-}
-
-std::string daysAgo(int nDays)
-{
-    return QDate::currentDate().addDays(-nDays).toString(Qt::ISODate).toStdString();
 }
 
 } // namespace
@@ -36,7 +30,6 @@ Analyser::Analyser()
 {
     for (int i = 0; i < trendLength; ++i)
         measure();
-    m_strCalibrated = daysAgo(19);
 }
 
 void Analyser::measure()
@@ -50,11 +43,12 @@ void Analyser::measure()
     }
 }
 
-void Analyser::store(const std::vector<Channel>& readings)
+void Analyser::store(const std::vector<Channel>& readings, const std::string& strTime,
+                     const std::string& strSample)
 {
-    const QString strTime = QTime::currentTime().toString(QStringLiteral("HH:mm"));
-    const QString strSample = QString::asprintf("W-%04d", ++m_nSample);
-    Record record = {strTime.toStdString(), strSample.toStdString(), {}};
+    Record record = {strTime, strSample, {}};
+    if (strSample.empty())
+        record.strSample = QString::asprintf("W-%04d", ++m_nSample).toStdString();
     for (std::size_t n = 0; n < record.values.size(); ++n)
         record.values[n] = readings[n].readings.back();
     m_records.insert(m_records.begin(), record);
@@ -64,9 +58,15 @@ void Analyser::store(const std::vector<Channel>& readings)
 
 void Analyser::stepLimit(std::size_t nChannel, int nSteps)
 {
-    Channel& channel = m_channels[nChannel];
+    const Channel& channel = m_channels[nChannel];
     const double dStep = std::pow(10, -channel.nPlaces) / channel.dFactor;
-    channel.dLimit = std::clamp(channel.dLimit + nSteps * dStep, channel.dLow, channel.dHigh);
+    setLimit(nChannel, channel.dLimit + nSteps * dStep);
+}
+
+void Analyser::setLimit(std::size_t nChannel, double dLimit)
+{
+    Channel& channel = m_channels[nChannel];
+    channel.dLimit = std::clamp(dLimit, channel.dLow, channel.dHigh);
 }
 
 void Analyser::setFahrenheit(bool bFahrenheit)
@@ -75,11 +75,6 @@ void Analyser::setFahrenheit(bool bFahrenheit)
     channel.strUnit = bFahrenheit ? "°F" : "°C";
     channel.dFactor = bFahrenheit ? 1.8 : 1;
     channel.dOffset = bFahrenheit ? 32 : 0;
-}
-
-void Analyser::setCalibrated()
-{
-    m_strCalibrated = daysAgo(0);
 }
 
 std::string Analyser::text(const Channel& channel, double dValue)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDate>
+
 #include <array>
 #include <string>
 #include <vector>
@@ -39,8 +41,10 @@ public:
     /// Takes one more reading of each channel; the oldest one goes.
     void measure();
 
-    /// Stores these readings as a measurement; the oldest one goes when there is no more room.
-    void store(const std::vector<Channel>& readings);
+    /// Stores these readings as a measurement of the sample of that name, or of the next number
+    /// for "". The oldest one goes when there is no more room.
+    void store(const std::vector<Channel>& readings, const std::string& strTime,
+               const std::string& strSample);
     void clearRecords() { m_records.clear(); }
 
     /// Moves the limit of a channel by so many units of the last place shown, within its range.
@@ -50,12 +54,15 @@ public:
     void setFahrenheit(bool bFahrenheit);
     bool isFahrenheit() const { return m_channels[temperatureAt].dFactor != 1; }
 
-    /// Notes that the sensor has been calibrated today.
-    void setCalibrated();
+    /// Sets the limit of a channel, in its own unit, within its range.
+    void setLimit(std::size_t nChannel, double dLimit);
+
+    /// Notes that the sensor has been calibrated on that day.
+    void setCalibrated(const QDate& date) { m_calibrated = date; }
 
     const std::vector<Channel>& channels() const { return m_channels; }
     const std::vector<Record>& records() const { return m_records; } ///< newest first
-    const std::string& calibrationDate() const { return m_strCalibrated; }
+    QDate calibrationDate() const { return m_calibrated; }
 
     /// A value of the channel as it is shown, without its unit.
     static std::string text(const Channel& channel, double dValue);
@@ -66,7 +73,7 @@ public:
 private:
     std::vector<Channel> m_channels;
     std::vector<Record> m_records;
-    std::string m_strCalibrated;
+    QDate m_calibrated = QDate::currentDate().addDays(-19);
     int m_nSample = 148; ///< number of the newest sample
     int m_nTime = 0;     ///< readings taken since the start
 };

@@ -1,9 +1,12 @@
 #include "InstrumentFrame.h"
 
+#include "pages/ClockPage.h"
 #include "pages/HomePage.h"
 #include "pages/LanguagePage.h"
 #include "pages/MeasurePage.h"
+#include "pages/NetworkPage.h"
 #include "pages/ResultsPage.h"
+#include "pages/SamplePage.h"
 #include "pages/SettingsPage.h"
 #include "sound/ConsoleSound.h"
 
@@ -40,6 +43,12 @@ ZELChildWindow* InstrumentFrame::createChildWindow(std::string strID)
         return new ResultsPage(strID, this);
     if (strID == "settings")
         return new SettingsPage(strID, this);
+    if (strID == "clock")
+        return new ClockPage(strID, this);
+    if (strID == "network")
+        return new NetworkPage(strID, this);
+    if (strID == "sample")
+        return new SamplePage(strID, this);
     if (strID == "language")
         return new LanguagePage(strID, this);
     return nullptr;
@@ -49,6 +58,11 @@ void InstrumentFrame::setSettings(const Settings& settings)
 {
     m_settings = settings;
     m_pSound->setTouchSound(settings.bTouchSound);
+}
+
+QDateTime InstrumentFrame::now() const
+{
+    return QDateTime::currentDateTime().addMSecs(m_settings.nClockOffset);
 }
 
 void InstrumentFrame::changeLanguage(const std::string& strLocale)

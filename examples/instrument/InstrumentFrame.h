@@ -5,6 +5,7 @@
 
 #include "windows/ZELMainFrame.h"
 
+#include <QDateTime>
 #include <QEvent>
 
 class ConsoleSound;
@@ -24,6 +25,9 @@ public:
     Analyser& analyser() { return m_analyser; }
     const Settings& settings() const { return m_settings; }
     void setSettings(const Settings& settings);
+
+    /// Date and time by the instrument's clock, which the user can set.
+    QDateTime now() const;
 
     /// Switches to another language and goes back one page. Meant to be called by the page on
     /// screen from its own event(): that page is deleted once it has returned from there.

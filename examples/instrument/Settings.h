@@ -11,4 +11,12 @@ struct Settings
     bool bStirrerPaused = false;
     std::string strStirrerSpeed = "medium"; ///< name of its radio button
     bool bOldestFirst = false;              ///< order of the results
+
+    std::string strDateOrder = "ymd"; ///< name of its radio button
+    long long nClockOffset = 0;       ///< milliseconds from the machine's clock to the instrument's
+    std::string strAddress = "192.168.0.20";
+    int nInterval = 10; ///< minutes
+    std::string strOperator = "OP-104";
+    std::string strSampleName; ///< of the next sample, UTF-8; empty for a number in its place
+    std::string strSampleCode; ///< what was scanned from its label
 };

@@ -4,59 +4,16 @@
 #include "Icons.h"
 #include "Palette.h"
 #include "Shapes.h"
+#include "States.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
-#include <functional>
 #include <string>
 
 namespace art {
 
 namespace {
-
-/// Draws the inside of a button of one state.
-using Inside = std::function<void(QPainter&, State)>;
-
-const char* suffix(State state)
-{
-    switch (state) {
-    case State::Down:
-        return "_down";
-    case State::Dim:
-        return "_dim";
-    case State::On:
-        return "_on";
-    default:
-        return "_up";
-    }
-}
-
-void addPicture(Album& album, const std::string& strName, const QSize& size, State state,
-                const Inside& draw)
-{
-    QImage image = emptyPicture(size);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    draw(painter, state);
-    painter.end();
-    album.add(strName + suffix(state), image);
-}
-
-/// The pictures of a tile in the states given; what is drawn on it goes through `drawInside`.
-void addTile(Album& album, const std::string& strName, const QSize& size, qreal dRadius,
-             std::initializer_list<State> states, const Inside& drawInside,
-             const QColor& accent = blue)
-{
-    for (const State state : states)
-        addPicture(album, strName, size, state, [&](QPainter& painter, State) {
-            drawTile(painter, QRectF(QPointF(0, 0), size), dRadius, state, accent);
-            drawInside(painter, state);
-        });
-}
-
-const std::initializer_list<State> pushStates = {State::Up, State::Down, State::Dim};
-const std::initializer_list<State> choiceStates = {State::Up, State::Down, State::Dim, State::On};
 
 /// A badge on a button: a little darker while the button is held, pale when it takes no touches.
 void drawBadge(QPainter& painter, State state, const QPointF& at, const QPainterPath& icon,
@@ -105,8 +62,6 @@ void addFilled(Album& album, const std::string& strName, const QSize& size, cons
             drawFilled(painter, QRectF(QPointF(0, 0), size), 12, state, color);
         });
 }
-
-void addNothing(QPainter&, State) {}
 
 /// The box of a check button; its "down" picture is the checked one too.
 void drawBox(QPainter& painter, State state)
@@ -179,6 +134,9 @@ void addButtons(Album& album)
     addBarButton(album, "save", store(), bar, left);
     addBarButton(album, "print", printer(), bar, left);
     addBarButton(album, "clear", bin(), bar, left);
+    addBarButton(album, "bar_clock", clock(), bar, left);
+    addBarButton(album, "bar_network", network(), bar, left);
+    addBarButton(album, "bar_sample", tag(), bar, left);
     const QRectF middle(12, 10, 24, 24);
     addBarButton(album, "minus", minus(), QSize(48, 44), middle);
     addBarButton(album, "plus", plus(), QSize(48, 44), middle);
@@ -188,13 +146,13 @@ void addButtons(Album& album)
                 if (state == State::On)
                     drawIcon(painter, tick(), QRectF(320, 20, 28, 28), blue, 6);
             });
-    addTile(album, "plain", QSize(208, 56), 12, pushStates, addNothing);
+    addTile(album, "plain", QSize(208, 56), 12, pushStates, drawNothing);
     addFilled(album, "primary", QSize(240, 56), blue);
     addFilled(album, "danger", QSize(208, 56), coral);
 
     addCheckable(album, "check", QSize(208, 64), drawBox);
     addCheckable(album, "radio", QSize(136, 60), drawDot);
-    addTile(album, "row", QSize(432, 64), 12, pushStates, addNothing, quiet);
+    addTile(album, "row", QSize(432, 64), 12, pushStates, drawNothing, quiet);
 }
 
 } // namespace art

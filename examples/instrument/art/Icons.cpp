@@ -7,10 +7,7 @@ namespace {
 /// Adds an open line through the points.
 void addLine(QPainterPath& path, std::initializer_list<QPointF> points)
 {
-    const QPointF* pFirst = points.begin();
-    path.moveTo(*pFirst);
-    for (const QPointF* p = pFirst + 1; p != points.end(); ++p)
-        path.lineTo(*p);
+    path.addPolygon(QVector<QPointF>(points));
 }
 
 QPainterPath bubble()
@@ -233,6 +230,68 @@ QPainterPath stirrer()
     path.cubicTo(38, 33, 29, 31, 24, 24);
     path.moveTo(12, 40);
     path.quadTo(24, 46, 36, 40);
+    return path;
+}
+
+QPainterPath clock()
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(24, 24), 18, 18);
+    addLine(path, {{24, 13}, {24, 24}, {32, 29}});
+    return path;
+}
+
+QPainterPath network()
+{
+    QPainterPath path;
+    for (const QPointF& corner : {QPointF(17, 6), QPointF(5, 31), QPointF(29, 31)})
+        path.addRoundedRect(QRectF(corner, QSizeF(14, 12)), 3, 3);
+    addLine(path, {{24, 18}, {24, 25}});
+    addLine(path, {{12, 31}, {12, 25}, {36, 25}, {36, 31}});
+    return path;
+}
+
+QPainterPath tag()
+{
+    QPainterPath path;
+    addLine(path, {{7, 7}, {24, 7}, {42, 25}, {25, 42}, {7, 24}});
+    path.closeSubpath();
+    path.addEllipse(QPointF(16, 16), 3, 3);
+    return path;
+}
+
+QPainterPath backspace()
+{
+    QPainterPath path;
+    addLine(path, {{4, 24}, {16, 9}, {44, 9}, {44, 39}, {16, 39}});
+    path.closeSubpath();
+    addLine(path, {{22, 18}, {34, 30}});
+    addLine(path, {{34, 18}, {22, 30}});
+    return path;
+}
+
+QPainterPath shift()
+{
+    QPainterPath path;
+    addLine(path, {{24, 6}, {42, 25}, {32, 25}, {32, 41}, {16, 41}, {16, 25}, {6, 25}});
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath globe()
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(24, 24), 18, 18);
+    path.addEllipse(QPointF(24, 24), 8, 18);
+    addLine(path, {{6, 24}, {42, 24}});
+    return path;
+}
+
+QPainterPath barcode()
+{
+    QPainterPath path;
+    for (const qreal x : {6.0, 12.0, 20.0, 27.0, 36.0, 42.0})
+        addLine(path, {{x, 10}, {x, 38}});
     return path;
 }
 

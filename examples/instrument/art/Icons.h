@@ -26,5 +26,12 @@ QPainterPath printer();
 QPainterPath bin();
 QPainterPath bell();
 QPainterPath stirrer();
+QPainterPath clock();
+QPainterPath network();
+QPainterPath tag();
+QPainterPath backspace();
+QPainterPath shift();
+QPainterPath globe();
+QPainterPath barcode();
 
 } // namespace art

@@ -12,6 +12,7 @@ namespace art {
 
 namespace {
 
+const QSize pageSize(800, 480);
 const int gaugeSize = 208;
 const int gaugePen = 16;
 const int waitSize = 104;
@@ -92,10 +93,10 @@ QImage resultsPage()
     return image;
 }
 
-/// A panel in the middle with a soft shadow; all around it is transparent.
-QImage dialog(const QRectF& panel)
+/// A panel with a soft shadow; all around it is transparent.
+QImage dialog(const QSize& size, const QRectF& panel)
 {
-    QImage image = emptyPicture(QSize(800, 480));
+    QImage image = emptyPicture(size);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -108,7 +109,7 @@ QImage dialog(const QRectF& panel)
 
 QImage questionDialog()
 {
-    QImage image = dialog(QRectF(152, 128, 496, 224));
+    QImage image = dialog(pageSize, QRectF(152, 128, 496, 224));
     QPainter painter(&image);
     painter.drawImage(176, 152, badge(bin(), 64, coral));
     return image;
@@ -116,11 +117,26 @@ QImage questionDialog()
 
 QImage calibrationDialog()
 {
-    QImage image = dialog(QRectF(152, 112, 496, 256));
+    QImage image = dialog(pageSize, QRectF(152, 112, 496, 256));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     drawGroove(painter, QPointF(176, 140), waitSize, waitPen);
     drawIcon(painter, flask(), QRectF(206, 170, 44, 44), white, 3.4);
+    return image;
+}
+
+/// The background of the numeric pad: a dialog's panel alone, with room for its shadow.
+QImage padPanel()
+{
+    return dialog(QSize(304, 424), QRectF(16, 16, 272, 392));
+}
+
+QImage samplePage()
+{
+    QImage image = page();
+    QPainter painter(&image);
+    painter.fillRect(0, 156, 800, 324, bar);
+    painter.fillRect(0, 156, 800, 1, edge);
     return image;
 }
 
@@ -146,6 +162,8 @@ void addPages(Album& album)
     album.add("page_results", resultsPage());
     album.add("page_settings", panelPage({QRectF(24, 72, 464, 392), QRectF(504, 72, 272, 392)}));
     album.add("page_language", page());
+    album.add("page_sample", samplePage());
+    album.add("pad_panel", padPanel());
     album.add("dialog_question", questionDialog());
     album.add("dialog_calibration", calibrationDialog());
     album.add("chart", chart());

@@ -3,6 +3,7 @@
 #include "Album.h"
 #include "Buttons.h"
 #include "Icons.h"
+#include "Keys.h"
 #include "Pages.h"
 #include "Palette.h"
 #include "Shapes.h"
@@ -27,12 +28,24 @@ QImage rowIcon(const QPainterPath& icon, const QColor& color)
     return image;
 }
 
+/// A quiet drawing beside a caption.
+QImage plainIcon(const QPainterPath& icon)
+{
+    QImage image = emptyPicture(QSize(24, 24));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawIcon(painter, icon, image.rect(), quiet.lighter(125), 3.6);
+    return image;
+}
+
 void addIcons(Album& album)
 {
     album.add("channel_ph", badge(flask(), 40, violet));
     album.add("channel_cond", badge(bolt(), 40, amber));
     album.add("channel_oxygen", badge(oxygen(), 40, teal));
     album.add("channel_temp", badge(thermometer(), 40, coral));
+    album.add("icon_tag", plainIcon(tag()));
+    album.add("icon_barcode", plainIcon(barcode()));
     album.add("row_alarm", rowIcon(bell(), coral));
     album.add("row_stirrer", rowIcon(stirrer(), teal));
 }
@@ -52,6 +65,8 @@ int main(int argc, char** argv)
     addPages(common);
     addRings(common);
     addButtons(common);
+    addFields(common);
+    addKeys(common);
     addIcons(common);
 
     Album korean(strResource + QStringLiteral("kr/img"));

@@ -1,10 +1,9 @@
 #include "pages/InstrumentPage.h"
 
+#include "Calendar.h"
 #include "InstrumentFrame.h"
 
 #include "components/buttons/ZELImageButton.h"
-
-#include <QDateTime>
 
 #include <algorithm>
 
@@ -51,8 +50,17 @@ bool InstrumentPage::event(QEvent* pEvent)
 
 void InstrumentPage::showValues()
 {
-    const QDateTime now = QDateTime::currentDateTime();
-    setText("clock", now.toString(QStringLiteral("yyyy-MM-dd  HH:mm")).toStdString());
+    setText("clock", dateText(m_pFrame->now().date()) + "  " + timeText());
+}
+
+std::string InstrumentPage::dateText(const QDate& date)
+{
+    return ::dateText(date, m_pFrame->settings().strDateOrder);
+}
+
+std::string InstrumentPage::timeText()
+{
+    return m_pFrame->now().toString(QStringLiteral("HH:mm")).toStdString();
 }
 
 Analyser& InstrumentPage::analyser()

@@ -4,6 +4,8 @@
 
 #include "windows/ZELChildWindow.h"
 
+#include <QDate>
+
 class Analyser;
 class InstrumentFrame;
 
@@ -23,6 +25,12 @@ protected:
     virtual void showValues();
 
     Analyser& analyser();
+
+    /// A date in the order that the user has chosen.
+    std::string dateText(const QDate& date);
+
+    /// The present time by the instrument's clock.
+    std::string timeText();
 
     /// The component of that id, or null if there is none or it is of another type.
     template <class T>

@@ -30,6 +30,8 @@ MeasurePage::MeasurePage(const std::string& strID, InstrumentFrame* pFrame)
     , m_shown(analyser().channels())
 {
     showChoice(m_nChannel, true);
+    if (auto* pButton = component<ZELImageButton>("sample", "ZELImageButton"))
+        pButton->setElidedText(true);
 }
 
 void MeasurePage::activating()
@@ -52,6 +54,8 @@ bool MeasurePage::event(QEvent* pEvent)
         m_bStepped = false;
     } else if (strID == "back") {
         m_pFrame->moveBack(true);
+    } else if (strID == "sample") {
+        m_pFrame->moveTo("sample", true, true);
     } else if (strID == "save") {
         save();
     } else if (!choose(strID)) {
@@ -84,11 +88,30 @@ void MeasurePage::stepLimit(const std::string& strID, int nSteps)
 
 void MeasurePage::save()
 {
-    analyser().store(m_shown);
+    Settings settings = m_pFrame->settings();
+    analyser().store(m_shown, timeText(), sampleName());
+    settings.strSampleName.clear();
+    settings.strSampleCode.clear();
+    m_pFrame->setSettings(settings);
     SoundFactory::getInstance()->playCompleteSound();
     if (m_pFrame->settings().bAutoHold)
         m_nHeld = holdTime;
     showValues();
+}
+
+std::string MeasurePage::sampleName() const
+{
+    const Settings& settings = m_pFrame->settings();
+    return settings.strSampleName.empty() ? settings.strSampleCode : settings.strSampleName;
+}
+
+void MeasurePage::showSample()
+{
+    const std::string strName = sampleName();
+    if (auto* pButton = component<ZELImageButton>("sample", "ZELImageButton")) {
+        pButton->setTitle(strName.empty() ? localText("@sample") : strName);
+        pButton->update();
+    }
 }
 
 void MeasurePage::showValues()
@@ -97,6 +120,7 @@ void MeasurePage::showValues()
     if (m_nHeld == 0)
         m_shown = analyser().channels();
     setDimmed("save", m_nHeld > 0);
+    showSample();
     showButtons();
     const Analyser::Channel& channel = m_shown[m_nChannel];
     showGauge(channel);

@@ -21,7 +21,11 @@ private:
     void stepLimit(const std::string& strID, int nSteps);
     void save();
 
+    /// What the next measurement is called: the name typed, the code scanned, or "".
+    std::string sampleName() const;
+
     void showChoice(std::size_t nChannel, bool bChosen);
+    void showSample();
     void showButtons();
     void showGauge(const Analyser::Channel& channel);
     void showState(const Analyser::Channel& channel);

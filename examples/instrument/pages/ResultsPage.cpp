@@ -3,6 +3,20 @@
 #include "InstrumentFrame.h"
 #include "dialogs/QuestionDialog.h"
 
+#include "components/text/ZELLabel.h"
+
+using PANFx::Components::ZELLabel;
+
+ResultsPage::ResultsPage(const std::string& strID, InstrumentFrame* pFrame)
+    : InstrumentPage(strID, pFrame)
+{
+    for (std::size_t nRow = 0; nRow < Analyser::recordLimit; ++nRow) {
+        const std::string strName = "row" + std::to_string(nRow) + ".sample";
+        if (auto* pName = component<ZELLabel>(strName, "ZELLabel"))
+            pName->setElidedText();
+    }
+}
+
 bool ResultsPage::event(QEvent* pEvent)
 {
     const std::string strID = touchedID(pEvent);

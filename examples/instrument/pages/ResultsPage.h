@@ -7,7 +7,7 @@
 class ResultsPage : public InstrumentPage
 {
 public:
-    using InstrumentPage::InstrumentPage;
+    ResultsPage(const std::string& strID, InstrumentFrame* pFrame);
 
 protected:
     bool event(QEvent* pEvent) override;

@@ -19,6 +19,10 @@ bool SettingsPage::event(QEvent* pEvent)
     const std::string strID = touchedID(pEvent);
     if (strID == "back")
         m_pFrame->moveBack(true);
+    else if (strID == "go_clock")
+        m_pFrame->moveTo("clock", true, true);
+    else if (strID == "go_network")
+        m_pFrame->moveTo("network", true, true);
     else if (strID == "calibrate")
         calibrate();
     else
@@ -30,7 +34,7 @@ void SettingsPage::calibrate()
 {
     CalibrationDialog dialog(m_pFrame);
     if (dialog.showAndWait() == CalibrationDialog::done)
-        analyser().setCalibrated();
+        analyser().setCalibrated(m_pFrame->now().date());
     showValues();
 }
 
@@ -67,7 +71,7 @@ void SettingsPage::showValues()
     showRow("alarm", settings.bAlarmMuted, settings.bAlarmMuted ? "muted" : "on");
     showRow("stirrer", settings.bStirrerPaused, settings.bStirrerPaused ? "paused" : "running");
     showSpeed();
-    setText("calibrated", analyser().calibrationDate());
+    setText("calibrated", dateText(analyser().calibrationDate()));
 }
 
 void SettingsPage::showCheck(const std::string& strButton, bool bChecked)

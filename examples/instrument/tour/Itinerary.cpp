@@ -3,64 +3,11 @@
 #include "InstrumentFrame.h"
 #include "tour/Screen.h"
 
-#include <utility>
-
-namespace {
-
-const int firstTick = 1200; // milliseconds; a button that is held ticks after 1000
-
-} // namespace
-
 Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen)
-    : m_frame(frame)
-    , m_screen(screen)
+    : StepList(screen)
+    , m_frame(frame)
+    , m_typing(frame, screen)
 {
-}
-
-TourStep& Itinerary::add(const std::string& strName, const std::string& strPage, Actions actions)
-{
-    TourStep step;
-    step.strName = strName;
-    step.actions = std::move(actions);
-    step.strPage = strPage;
-    step.strLocale = m_strLocale;
-    m_steps.push_back(std::move(step));
-    return m_steps.back();
-}
-
-void Itinerary::claim(TourStep& step, const std::string& strClaim, std::function<bool()> isTrue)
-{
-    step.strClaim = strClaim;
-    step.isTrue = std::move(isTrue);
-}
-
-Itinerary::Action Itinerary::tap(const std::string& strID)
-{
-    return {[this, strID] { m_screen.tap(strID); }, 0};
-}
-
-Itinerary::Action Itinerary::press(const std::string& strID, int nTime)
-{
-    return {[this, strID] { m_screen.press(strID); }, nTime};
-}
-
-Itinerary::Action Itinerary::release()
-{
-    return {[this] { m_screen.release(); }, 0};
-}
-
-Itinerary::Action Itinerary::tick(const std::string& strID, int nTicks)
-{
-    return {[this, strID, nTicks] { m_screen.tick(strID, nTicks); }, 0};
-}
-
-Itinerary::Action Itinerary::goHome()
-{
-    return {[this] {
-                if (m_screen.page() != "home")
-                    m_screen.tap("back");
-            },
-            0};
 }
 
 Analyser& Itinerary::analyser()
@@ -124,12 +71,12 @@ void Itinerary::settings()
 
 void Itinerary::calibration()
 {
-    const std::string strBefore = analyser().calibrationDate();
+    const QDate before = analyser().calibrationDate();
     add("calibration", "settings", {tap("calibrate"), tick("", 9)}).strDialog = "calibration";
     claim(add("calibration-cancelled", "settings", {tap("cancel")}), "the date is the old one",
-          [this, strBefore] { return analyser().calibrationDate() == strBefore; });
+          [this, before] { return analyser().calibrationDate() == before; });
     claim(add("calibrated", "settings", {tap("calibrate"), tick("", 24)}), "the date is a new one",
-          [this, strBefore] { return analyser().calibrationDate() != strBefore; });
+          [this, before] { return analyser().calibrationDate() != before; });
 }
 
 void Itinerary::saving()
@@ -147,7 +94,7 @@ void Itinerary::addLanguage(const std::string& strName, const std::string& strLo
 {
     m_strLocale = strLocale;
     const std::string strButton = "lang_" + (strLocale.empty() ? "en" : strLocale);
-    add(strName, "home", {goHome(), tap("language"), tap(strButton)});
+    add(strName, "home", {goHome(), goHome(), tap("language"), tap(strButton)});
 }
 
 void Itinerary::korean()
@@ -162,7 +109,10 @@ void Itinerary::korean()
     add("korean-settings", "settings", {tap("no"), goHome(), tap("settings")});
     add("korean-calibration", "settings", {tap("calibrate"), tick("", 9)}).strDialog =
         "calibration";
-    add("korean-language", "language", {tap("cancel"), goHome(), tap("language")});
+    add("korean-clock", "clock", {tap("cancel"), tap("go_clock")});
+    add("korean-network", "network", {tap("back"), tap("go_network"), tap("address")});
+    add("korean-sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
+    add("korean-language", "language", {tap("back"), goHome(), tap("language")});
 }
 
 void Itinerary::otherLanguages()
@@ -172,7 +122,11 @@ void Itinerary::otherLanguages()
                                {"russian", "rus"}, {"chinese", "chn"}};
     for (const auto& [pszName, pszLocale] : others) {
         addLanguage(pszName, pszLocale);
-        add(std::string(pszName) + "-settings", "settings", {tap("settings")});
+        const std::string strPrefix = std::string(pszName) + "-";
+        add(strPrefix + "settings", "settings", {tap("settings")});
+        add(strPrefix + "clock", "clock", {tap("go_clock")});
+        add(strPrefix + "network", "network", {tap("back"), tap("go_network"), tap("address")});
+        add(strPrefix + "sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
     }
     addLanguage("english", "");
 }
@@ -193,8 +147,9 @@ std::vector<TourStep> Itinerary::steps()
     settings();
     calibration();
     saving();
+    append(m_typing.steps());
     korean();
     otherLanguages();
     clearing();
-    return m_steps;
+    return takeSteps();
 }

@@ -1,18 +1,24 @@
 #include "tour/Screen.h"
 
+#include "ComponentAccess.h"
 #include "InstrumentFrame.h"
 
 #include "components/ZELComponent.h"
+#include "components/editors/ZELImageEdit.h"
+#include "components/text/ZELLineEdit.h"
 #include "events/Timer.h"
 #include "windows/ZELChildWindow.h"
 #include "windows/ZELPopupWindow.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTimerEvent>
 
 using PANFx::Components::Timer;
 using PANFx::Components::ZELComponent;
+using PANFx::Components::ZELImageEdit;
+using PANFx::Components::ZELLineEdit;
 using PANFx::Windows::ZELChildWindow;
 using PANFx::Windows::ZELPopupWindow;
 
@@ -43,12 +49,21 @@ ZELPopupWindow* Screen::findDialog()
     return nullptr;
 }
 
+QWidget* Screen::top()
+{
+    QWidget* pDialog = findDialog();
+    return pDialog != nullptr ? pDialog : &m_frame;
+}
+
 QImage Screen::picture()
 {
-    QWidget* pTop = findDialog();
-    if (pTop == nullptr)
-        pTop = &m_frame;
-    return pTop->grab().toImage();
+    return top()->grab().toImage();
+}
+
+void Screen::activate()
+{
+    if (!top()->isActiveWindow())
+        top()->activateWindow();
 }
 
 ZELComponent* Screen::find(const std::string& strID)
@@ -111,11 +126,40 @@ void Screen::tick(const std::string& strID, int nTicks)
         return;
     for (QObject* pChild : pOwner->children()) {
         auto* pTimer = dynamic_cast<Timer*>(pChild);
-        for (int n = 0; pTimer != nullptr && n < nTicks; ++n) {
+        const bool bRuns = pTimer != nullptr && pTimer->isActive();
+        for (int n = 0; bRuns && n < nTicks; ++n) {
             QTimerEvent event(pTimer->timerId());
             QCoreApplication::sendEvent(pTimer, &event);
         }
     }
+}
+
+void Screen::scan(const QString& strCode)
+{
+    const auto strike = [this](int nKey, const QString& strText) {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, nKey, Qt::NoModifier, strText);
+            QCoreApplication::sendEvent(m_frame.windowHandle(), &event);
+        }
+    };
+    for (const QChar letter : strCode)
+        strike(letter.toUpper().unicode(), letter);
+    strike(Qt::Key_Return, QStringLiteral("\r"));
+}
+
+std::string Screen::text(const std::string& strID)
+{
+    ZELComponent* pComponent = find(strID);
+    if (auto* pLine = componentAs<ZELLineEdit>(pComponent, "ZELLineEdit"))
+        return pLine->text().toStdString();
+    auto* pEdit = dynamic_cast<ZELImageEdit*>(pComponent);
+    return pEdit != nullptr ? pEdit->text() : "";
+}
+
+bool Screen::isVisible(const std::string& strID)
+{
+    ZELComponent* pComponent = find(strID);
+    return pComponent != nullptr && pComponent->getQWidget()->isVisible();
 }
 
 bool Screen::isEnabled(const std::string& strID)

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPoint>
 #include <QPointer>
+#include <QString>
 #include <QWindow>
 
 #include <string>
@@ -32,6 +33,9 @@ public:
 
     QImage picture();
 
+    /// Gives the window on top the keys, as a window system does once another one has closed.
+    void activate();
+
     /// Puts the finger on the middle of a component of the dialog, or else of the page; one inside
     /// of a group is called "group/component".
     void press(const std::string& strID);
@@ -39,8 +43,17 @@ public:
     void tap(const std::string& strID);
 
     /// Turns the clock of a component, or of the dialog for "", on by so many ticks. They go the
-    /// way of a real one: through its timer, which posts them.
+    /// way of a real one: through its timer, which posts them. One that stands still has none.
     void tick(const std::string& strID, int nTicks);
+
+    /// Sends keys as a scanner does that acts as a keyboard, the enter key at the end.
+    void scan(const QString& strCode);
+
+    /// What a field holds, UTF-8; of a line edit what was typed or scanned into it.
+    std::string text(const std::string& strID);
+
+    /// Whether a component is to be seen.
+    bool isVisible(const std::string& strID);
 
     /// Whether a component takes touches.
     bool isEnabled(const std::string& strID);
@@ -50,6 +63,7 @@ public:
     void forgetMissing() { m_strMissing.clear(); }
 
 private:
+    QWidget* top();
     PANFx::Windows::ZELPopupWindow* findDialog();
     PANFx::Components::ZELComponent* find(const std::string& strID);
     void send(QEvent::Type type);

@@ -78,6 +78,7 @@ void Tour::finishStep()
     report(strFault);
     m_nAction = 0;
     m_screen.forgetMissing();
+    m_screen.activate();
     if (++m_nStep < m_steps.size())
         goOn(0);
     else

@@ -1,0 +1,44 @@
+#include "Calendar.h"
+
+#include <QString>
+
+#include <iterator>
+
+namespace {
+
+struct Order
+{
+    const char* pszName;
+    const char* pszTyped; ///< format in a field
+    const char* pszShown; ///< format elsewhere
+};
+
+const Order orders[] = {{"mdy", "MM/dd/yyyy", "MM/dd/yyyy"},
+                        {"dmy", "dd/MM/yyyy", "dd/MM/yyyy"},
+                        {"ymd", "yyyy/MM/dd", "yyyy-MM-dd"}};
+
+const Order& orderOf(const std::string& strOrder)
+{
+    return orders[orderNumber(strOrder)];
+}
+
+} // namespace
+
+unsigned int orderNumber(const std::string& strOrder)
+{
+    unsigned int nOrder = 0;
+    while (nOrder + 1 < std::size(orders) && strOrder != orders[nOrder].pszName)
+        ++nOrder;
+    return nOrder;
+}
+
+std::string dateText(const QDate& date, const std::string& strOrder)
+{
+    return date.toString(QLatin1String(orderOf(strOrder).pszShown)).toStdString();
+}
+
+QDate typedDate(const std::string& strText, const std::string& strOrder)
+{
+    return QDate::fromString(QString::fromStdString(strText),
+                             QLatin1String(orderOf(strOrder).pszTyped));
+}
