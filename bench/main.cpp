@@ -23,7 +23,7 @@ using namespace bench;
 constexpr const char* usage =
     "usage: qtpanfx_bench [--quick] [--only GROUP] [--save-pictures DIR]\n"
     "  --quick          fewer turns, under 20 seconds\n"
-    "  --only GROUP     one of: load switch touch image strings log compose\n"
+    "  --only GROUP     one of: load switch touch image strings log compose typing\n"
     "                   memory start\n"
     "  --save-pictures  leaves what each candidate painted in DIR\n"
     "Ends with 1 when a measurement is not valid; a missed goal is only marked.\n";
@@ -49,7 +49,8 @@ struct Group
 constexpr Group groups[] = {
     {"load", measurePageLoads},  {"switch", measurePageSwitch},   {"touch", measureTouch},
     {"image", measureImageHit},  {"strings", measureStringTable}, {"log", measureLogLine},
-    {"compose", measureCompose}, {"memory", measureMemory},       {"start", measureStart},
+    {"compose", measureCompose}, {"typing", measureTyping},       {"memory", measureMemory},
+    {"start", measureStart},
 };
 
 bool readOptions(const std::vector<std::string>& words, Options& options)

@@ -26,6 +26,7 @@ void measureImageHit(Run& run);
 void measureStringTable(Run& run);
 void measureLogLine(Run& run);
 void measureCompose(Run& run);
+void measureTyping(Run& run);
 void measureMemory(Run& run);
 void measureStart(Run& run);
 
