@@ -5,9 +5,12 @@
 #include <QString>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace PANFx::Components {
 
-// Digits as the fields for values hold them: a few characters for each part.
+// What the fields for values have in common: typing character by character, and parts of a few
+// digits each.
 
 /**
  * Offers the characters of a text one after the other to an operation that says whether it
@@ -51,6 +54,26 @@ inline QString twoDigits(int nValue)
 inline QString fourDigits(int nValue)
 {
     return QString::asprintf("%04d", nValue);
+}
+
+/** The first digit of a part; from @p nBeyondFirst on it closes the part, as no second can follow.
+ */
+inline QString firstDigit(int nDigit, int nBeyondFirst)
+{
+    return nDigit < nBeyondFirst ? plainNumber(nDigit) : twoDigits(nDigit);
+}
+
+/**
+ * Puts the second digit behind the first of a part and holds the part at a limit.
+ * @return false when the part would become zero: the digit is refused
+ */
+inline bool typeSecondDigit(QString& strPart, int nDigit, int nLimit)
+{
+    const int value = numberIn(strPart) * 10 + nDigit;
+    if (value == 0)
+        return false;
+    strPart = twoDigits(std::min(value, nLimit));
+    return true;
 }
 
 } // namespace PANFx::Components

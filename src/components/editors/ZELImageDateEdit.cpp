@@ -33,30 +33,14 @@ constexpr std::size_t dateDigits = 8;
 constexpr int beyondFirstOfMonth = 2; // a digit from here on can only be a whole month
 constexpr int beyondFirstOfDay = 4;
 
-// the first digit of a part closes it at once where no second one could follow
-void typeFirst(QString& part, int digit, int beyondFirst)
-{
-    part = digit < beyondFirst ? plainNumber(digit) : twoDigits(digit);
-}
-
-// false when the part would become zero: the digit is refused
-bool typeSecond(QString& part, int digit, int limit)
-{
-    const int value = numberIn(part) * 10 + digit;
-    if (value == 0)
-        return false;
-    part = twoDigits(std::min(value, limit));
-    return true;
-}
-
 void typeSecondOfMonth(QString& month, int digit)
 {
-    typeSecond(month, digit, lastMonth);
+    typeSecondDigit(month, digit, lastMonth);
 }
 
 bool typeSecondOfDay(QString& day, int digit)
 {
-    return typeSecond(day, digit, longestMonth);
+    return typeSecondDigit(day, digit, longestMonth);
 }
 
 int digitsAt(const std::string& text, std::size_t place, std::size_t count)
@@ -220,11 +204,11 @@ void ZELImageDateEdit::MDYProcess(char c)
 {
     const int digit = digitOf(c);
     if (m_strMonth.isEmpty())
-        typeFirst(m_strMonth, digit, beyondFirstOfMonth);
+        m_strMonth = firstDigit(digit, beyondFirstOfMonth);
     else if (m_strDay.isEmpty() && m_strMonth.size() == 1)
         typeSecondOfMonth(m_strMonth, digit);
     else if (m_strDay.isEmpty())
-        typeFirst(m_strDay, digit, beyondFirstOfDay);
+        m_strDay = firstDigit(digit, beyondFirstOfDay);
     else if (atFixedYear() && m_strDay.size() == 1)
         typeSecondOfDay(m_strDay, digit);
     else
@@ -235,11 +219,11 @@ void ZELImageDateEdit::DMYProcess(char c)
 {
     const int digit = digitOf(c);
     if (m_strDay.isEmpty())
-        typeFirst(m_strDay, digit, beyondFirstOfDay);
+        m_strDay = firstDigit(digit, beyondFirstOfDay);
     else if (m_strMonth.isEmpty() && m_strDay.size() == 1)
         typeSecondOfDay(m_strDay, digit);
     else if (m_strMonth.isEmpty())
-        typeFirst(m_strMonth, digit, beyondFirstOfMonth);
+        m_strMonth = firstDigit(digit, beyondFirstOfMonth);
     else if (atFixedYear() && m_strMonth.size() == 1)
         typeSecondOfMonth(m_strMonth, digit);
     else
@@ -255,11 +239,11 @@ void ZELImageDateEdit::YMDProcess(char c)
         if (!m_strYear.isEmpty() || digit != 0)
             m_strYear += plainNumber(digit);
     } else if (m_strMonth.isEmpty()) {
-        typeFirst(m_strMonth, digit, beyondFirstOfMonth);
+        m_strMonth = firstDigit(digit, beyondFirstOfMonth);
     } else if (m_strDay.isEmpty() && m_strMonth.size() == 1) {
         typeSecondOfMonth(m_strMonth, digit);
     } else if (m_strDay.isEmpty()) {
-        typeFirst(m_strDay, digit, beyondFirstOfDay);
+        m_strDay = firstDigit(digit, beyondFirstOfDay);
         if (digit >= beyondFirstOfDay && numberIn(m_strYear) > lastYear)
             m_strYear = plainNumber(lastYear);
     } else if (m_strDay.size() == 1 && typeSecondOfDay(m_strDay, digit)) {

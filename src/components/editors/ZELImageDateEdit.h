@@ -14,7 +14,8 @@ namespace PANFx::Components {
  * day in columns with "/" between them.
  *
  * Layout: that of ZELImageEdit, and a child "datewidth" with the widths in pixels of the columns,
- * "year" (60), "month" (40) and "day" (40). The text is always centred in its column.
+ * "year" (60), "month" (40) and "day" (40). "align" has no effect: the columns are centred, until
+ * setAlign().
  *
  * text() gives the parts with "/" between them, setText() takes the digits alone.
  */

@@ -81,8 +81,9 @@ public:
 
     /**
      * 0, 1, 2 cut a long text at the left, the right, in the middle. 4 cuts at the right, at the
-     * left while typing, and a tap on the first or last tenth of the field shows that end. Any
-     * other value cuts nothing. Doesn't repaint.
+     * left while typing, and a tap on the first or last tenth of the text area shows that end
+     * (with a margin at the left its last pixels are dead). Any other value cuts nothing. Doesn't
+     * repaint.
      */
     void setElidedText(int nMode);
 
@@ -114,7 +115,7 @@ protected:
     /** Whether the three current pieces can be drawn; without them nothing is painted at all. */
     bool hasFrame() const;
 
-    /** Draws the three current pieces. */
+    /** Draws the three current pieces, which must be there: see hasFrame(). */
     void paintFrame(QPainter& painter) const;
 
     /**

@@ -1,11 +1,9 @@
 #include "components/editors/ZELImageIPEdit.h"
 
 #include "common/Numbers.h"
-#include "components/support/Painting.h"
 
 #include <QPainter>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <utility>

@@ -29,8 +29,10 @@ public:
     std::string text() override;
 
     /**
-     * An address of four octets; a fifth one takes the place of the fourth. Fewer than three, or
-     * one above 255 among the first three, clear the field, as do null and "".
+     * An address of four octets; a fifth one takes the place of the fourth. Three octets without
+     * a point behind them stand as they are, and so does what comes before a fourth that is above
+     * 255: ask isValidIP(). Fewer than three, or one above 255 among them, clear the field, as do
+     * null and "".
      */
     void setText(const char* pszText) override;
     void setText(std::string strText) override;
@@ -45,6 +47,7 @@ public:
      */
     void backspace() override;
 
+    /** What setText() does but for the repaint. @return whether the last octet was reached */
     virtual bool processText(std::string strText);
 
     /**

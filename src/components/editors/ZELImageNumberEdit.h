@@ -9,11 +9,13 @@ namespace PANFx::Components {
 /**
  * A field for a number, typed character by character and kept in a range. Without decimal places
  * it takes integers and a digit too many makes it the maximum; with decimal places a digit too
- * many becomes a decimal. The minimum is applied when the field loses the focus.
+ * many becomes a decimal, and a negative minimum holds while typing. Any minimum is applied when
+ * the field loses the focus.
  *
  * Layout: that of ZELImageEdit. "dimstyle" is the style of the text while dimmed.
  *
- * An integer field takes no key before setRange() has been called.
+ * An integer field takes no key while its value is the maximum, and an empty one counts as 0: so
+ * it takes none before setRange() has been called, nor with a maximum of 0.
  */
 class QTPANFX_EXPORT ZELImageNumberEdit : public ZELImageEdit
 {

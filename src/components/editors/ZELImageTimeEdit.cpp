@@ -8,7 +8,6 @@
 #include <QFont>
 #include <QPainter>
 
-#include <algorithm>
 #include <utility>
 
 namespace PANFx::Components {
@@ -86,7 +85,8 @@ std::string ZELImageTimeEdit::text()
         hour %= hoursOfHalfDay;
     else if (hour < hoursOfHalfDay)
         hour += hoursOfHalfDay;
-    return QString(twoDigits(hour) + QLatin1Char(':') + m_strMinute).toStdString();
+    return QString(twoDigits(hour) + QLatin1Char(':') + twoDigits(numberIn(m_strMinute)))
+        .toStdString();
 }
 
 void ZELImageTimeEdit::setText(const char* pszText)
@@ -153,13 +153,11 @@ bool ZELImageTimeEdit::processText(char c)
 void ZELImageTimeEdit::typeDigit(int nDigit)
 {
     if (m_strHour.isEmpty()) {
-        m_strHour = nDigit < beyondFirstOfHour ? plainNumber(nDigit) : twoDigits(nDigit);
+        m_strHour = firstDigit(nDigit, beyondFirstOfHour);
     } else if (m_strMinute.isEmpty() && m_strHour.size() == 1) {
-        const int hour = numberIn(m_strHour) * 10 + nDigit;
-        if (hour != 0)
-            m_strHour = twoDigits(std::min(hour, hoursOfHalfDay));
+        typeSecondDigit(m_strHour, nDigit, hoursOfHalfDay);
     } else if (m_strMinute.isEmpty()) {
-        m_strMinute = nDigit < beyondFirstOfMinute ? plainNumber(nDigit) : twoDigits(nDigit);
+        m_strMinute = firstDigit(nDigit, beyondFirstOfMinute);
     } else if (m_strMinute.size() == 1) {
         m_strMinute += plainNumber(nDigit);
     }

@@ -19,8 +19,9 @@ using TAMFx::Common::Xml::Node;
 
 namespace {
 
+// not "destroy": QWidget has an operation of that name, which would be taken instead
 template <typename Component>
-void destroy(Component*& component)
+void deleteLiving(Component*& component)
 {
     if (ZELComponent::isAlive(component))
         delete component;
@@ -37,9 +38,9 @@ ZELRange::ZELRange(QWidget* pParent, std::string strID, std::string strType, Nod
 
 ZELRange::~ZELRange()
 {
-    destroy(m_pUpBtn);
-    destroy(m_pDownBtn);
-    destroy(m_pExtra);
+    deleteLiving(m_pUpBtn);
+    deleteLiving(m_pDownBtn);
+    deleteLiving(m_pExtra);
 }
 
 void ZELRange::setSoundMode(bool bSoundMode)

@@ -209,6 +209,7 @@ void ZELComboList::addItem(std::string strText)
             return;
         erase(strText);
     }
+    // a list without rows keeps the newest alone and does not grow for ever
     if (getItemCount() == std::max(m_nListCount, 1))
         m_dequeItem.pop_front();
     m_dequeItem.push_back(std::move(strText));

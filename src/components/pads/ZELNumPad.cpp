@@ -38,7 +38,7 @@ enum KeySet { doubleZero, point, comma, timeOfDay, userDefined };
 
 void showKey(ZELImageButton* key, bool visible)
 {
-    if (key)
+    if (ZELComponent::isAlive(key))
         key->setVisible(visible);
 }
 
@@ -187,7 +187,7 @@ void ZELNumPad::setEnable(bool bEnable)
 void ZELNumPad::setUserDefineButtonTitle(std::string strTitle)
 {
     m_strUserDefine = std::move(strTitle);
-    if (m_pEmptyBtn)
+    if (isAlive(m_pEmptyBtn))
         m_pEmptyBtn->setTitle(m_strUserDefine);
 }
 

@@ -25,7 +25,7 @@ class ZELImageEdit;
  * its title) and "close". "num0", "num00" and "close" must be there.
  *
  * Posts to its parent a ZELRangeEvent of EVENT_MOUSE_UP (1552) for each key, with the digit, -1
- * for backspace and 100 for the others, with or without an edit; for "close" a ZELEvent of
+ * for backspace and 100 for the others, with or without an edit; for "close" instead a ZELEvent of
  * EVENT_NUMPAD_CLOSE (1701).
  */
 class QTPANFX_EXPORT ZELNumPad : public ZELComponent, public QWidget
@@ -68,11 +68,21 @@ public:
     /** Reports a key to the parent. */
     void sendEvent(int nValue);
 
-    /** What a click on a key does; the id of the event tells the key. Null does nothing. */
-    void onNumBtnPress(ZELEvent* pEvent); ///< @throw std::out_of_range when the id is empty
+    /**
+     * What a click on a digit does; the last character of the event's id is the digit. Null does
+     * nothing and is told.
+     * @throw std::out_of_range when the id is empty
+     */
+    void onNumBtnPress(ZELEvent* pEvent);
+
+    /** What a click on backspace and its ticks do; the argument is not used. */
     void onBspacePress(ZELEvent* pEvent);
     void onBspacePressLong(ZELEvent* pEvent);
+
+    /** What a click on another key does, by the event's id. Null does nothing and is told. */
     void onETCBtnPress(ZELEvent* pEvent);
+
+    /** Hides the pad, takes the focus from the edit, and reports; the argument is not used. */
     void onClosePress(ZELEvent* pEvent);
 
 protected:

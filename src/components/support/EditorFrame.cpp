@@ -24,8 +24,7 @@ constexpr int passwordEcho = 1;
 constexpr int lighter = 90; // steps of 255
 constexpr int brightest = 255;
 
-// A shade that would be brighter than white is black: the field then still shows something on
-// its usually bright ground.
+// Where a component would pass its largest value there is no such colour, and black is used.
 QColor placeholderColor(const QColor& color)
 {
     const int red = color.red() + lighter;

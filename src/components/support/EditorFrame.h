@@ -20,7 +20,7 @@ class Node;
 
 namespace PANFx::Components {
 
-// What the fields that type is shown in have in common: a frame of three pictures, of which the
+// What the fields for text and values have in common: a frame of three pictures, of which the
 // middle one is stretched, a text area, a placeholder, and elision.
 
 /** File names of the pictures of a frame. */
@@ -55,8 +55,9 @@ bool findFrame(const FrameNames& names, QPixmap*& pStart, QPixmap*& pMid, QPixma
 QRect fieldPlace(TAMFx::Common::Xml::Node* pLayout);
 
 /**
- * The text area that the child "padding" gives, in pixels inside a widget of that size. What it
- * leaves out, or all without it, is 8 pixels from the left and the right.
+ * The text area that the child "padding" gives, in pixels inside a widget. A number that is
+ * missing is that of an area 8 pixels from the left and the right: x 8, y 0, the width less 16,
+ * the height.
  */
 QRect readPadding(TAMFx::Common::Xml::Node* pLayout, const QWidget& widget);
 

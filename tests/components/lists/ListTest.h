@@ -107,13 +107,13 @@ class OpenedPart : public Base
 public:
     using Base::Base;
 
-    using Base::event;
     using Base::m_logger;
+
+    bool event(QEvent* event) override { return Base::event(event); }
+    void paintEvent(QPaintEvent* event) override { Base::paintEvent(event); }
 
     static std::intptr_t slotOfPaint() { return slot(&OpenedPart::paintEvent); }
     static std::intptr_t slotOfEvent() { return slot(&OpenedPart::event); }
-
-    using Base::paintEvent;
 };
 
 /**

@@ -170,8 +170,8 @@ TEST_F(ZELComboListChoiceTest, theRankOfARowIsTheSameInBothDirections)
         for (int rank = 0; rank < 3; ++rank) {
             Combo* const list = opened(combo(attributes));
             Touch::tapWindow(list->button(list->m_bUp ? 2 - rank : rank));
-            const std::string chosen = m_edit->text();
             const RecordedEvent event = panel().takeOne();
+            const std::string chosen = m_edit->text();
             EXPECT_EQ(event.row, rank) << attributes;
             EXPECT_EQ(chosen, list->getItem(2 - rank)) << attributes;
             EXPECT_EQ(list->getItemCount() - 1 - list->findItem(chosen), event.row);
@@ -239,6 +239,7 @@ TEST_F(ZELComboListChoiceTest, anEditGoesBeforeALineEdit)
     ZELLineEdit* const other = lineEdit();
     list->setLineEdit(other);
     Touch::tapWindow(list->button(1));
+    EventLoop::deliver();
     EXPECT_EQ(m_edit->text(), "b");
     EXPECT_EQ(other->text(), QString());
     EXPECT_FALSE(other->*LineEditDoor::showMode);

@@ -3,6 +3,8 @@
 #include "components/editors/ZELImageEdit.h"
 #include "components/text/ZELLineEdit.h"
 
+#include <QPointer>
+
 #include <stdexcept>
 
 using namespace PANFx;
@@ -378,69 +380,4 @@ TEST_F(ZELComboListTest, goesWithAFullListAndAScroll)
     const QPointer<QWidget> row(list->row(0)->getQWidget());
     delete list;
     EXPECT_TRUE(row.isNull());
-}
-
-// ---- bad layouts
-
-TEST_F(ZELComboListTest, anItemIndexThatIsNoButtonSkipsTheRows)
-{
-    for (const char* index : {"5", "-1", "2147483647", "-2147483648", "99999999999"}) {
-        log().startHere();
-        Combo* const list = combo("itemIndex='" + std::string(index) + "'");
-        EXPECT_EQ(log().count(buttonIsNull, "ZELComboList"), 4) << index;
-        list->add({"a"});
-        EXPECT_EQ(log().count(buttonIsNull, "ZELComboList"), 8) << index;
-        EXPECT_EQ(list->height(), 30) << "the rest is drawn";
-        EXPECT_TRUE(list->row(0)->getQWidget()->isHidden());
-    }
-}
-
-TEST_F(ZELComboListTest, anItemIndexThatNamesALabelSkipsTheRow)
-{
-    const std::string labelled = row("row0", 0, group("label", "<l title='t' style='normal'/>")) +
-                                 row("row1", 30, group("button", cell("text", 0)));
-    Combo* const list = make<Combo>(comboOf("", group("listitem", labelled)), "ZELComboList");
-    log().startHere();
-    list->add({"a", "b"});
-    EXPECT_EQ(log().count(buttonIsNull, "ZELComboList"), 2) << "one row, two draws";
-    EXPECT_TRUE(list->row(0)->getQWidget()->isHidden());
-    EXPECT_EQ(list->button(1)->getTitle(), "a") << "the others are drawn";
-}
-
-TEST_F(ZELComboListTest, aRowThatIsGoneIsSkipped)
-{
-    Combo* const list = combo();
-    delete list->getSubComponent("row1")->getQWidget();
-    log().startHere();
-    list->add({"a", "b", "c"});
-    EXPECT_EQ(log().count("[D] [ZELComboList::draw] list item is NULL", "ZELComboList"), 3);
-    EXPECT_EQ(list->button(0)->getTitle(), "c");
-    EXPECT_EQ(list->button(2)->getTitle(), "a");
-}
-
-TEST_F(ZELComboListTest, aRowWithoutAnIdIsSkipped)
-{
-    Combo* const list = combo();
-    list->m_arrItemId.RemoveAt(3);
-    log().startHere();
-    list->addItem("a");
-    EXPECT_EQ(log().count("[D] [ZELComboList::draw] list item ID is NULL", "ZELComboList"), 1);
-}
-
-TEST_F(ZELComboListTest, anItemIndexThatIsNoNumberIsTheFirst)
-{
-    EXPECT_EQ(combo("itemIndex=''")->m_nItemIndex, 0);
-    EXPECT_EQ(combo("itemIndex='x'")->m_nItemIndex, 0);
-    EXPECT_EQ(combo("itemIndex='01'")->m_nItemIndex, 1) << "base 10";
-}
-
-TEST_F(ZELComboListTest, aRowOfOtherButtonsCarriesTextsToo)
-{
-    for (const char* keyword : {"checkbutton", "radiobutton", "headerbutton", "tabbutton"}) {
-        Combo* const list = make<Combo>(
-            comboOf("", group("listitem", row("row0", 0, group(keyword, cell("text", 0))))),
-            "ZELComboList");
-        list->addItem("a");
-        EXPECT_EQ(list->rows(), "a") << keyword;
-    }
 }

@@ -91,6 +91,7 @@ TEST_F(ZELListHeaderTest, findsColumnsByIdAndPassesOverCellsThatAreGone)
 TEST_F(ZELListHeaderTest, anythingBelowAClickIsQts)
 {
     Header* const header = mixedHeader();
+    EXPECT_FALSE(send(header, {900, Kind::Plain})) << "Qt's own range, and unknown to it";
     for (const int type : {1000, int(EVENT_WINDOW_ACTIVATE), int(EVENT_MOUSE_DOWN)}) {
         for (const Kind kind : allKinds) {
             Incoming incoming{type, kind};

@@ -141,6 +141,7 @@ TEST_F(ZELListItemTest, passesOverACellThatIsGone)
 TEST_F(ZELListItemTest, aPressEndsHereAndAnythingBelowAClickIsQts)
 {
     Row* const row = mixedRow();
+    EXPECT_FALSE(send(row, {900, Kind::Plain})) << "Qt's own range, and unknown to it";
     for (const int type : {1000, int(EVENT_WINDOW_ACTIVATE), int(EVENT_MOUSE_DOWN)}) {
         for (const Kind kind : allKinds) {
             Incoming incoming{type, kind};

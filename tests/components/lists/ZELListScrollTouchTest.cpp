@@ -93,11 +93,7 @@ TEST_F(ZELListScrollTouchTest, everyNumberClassAndSenderIsAPageTurnOrNothing)
 TEST_F(ZELListScrollTouchTest, whatIsNotItsOwnGoesToQt)
 {
     Scroll* const scroll = scrollAt(1, 1);
-    QEvent qts(QEvent::InputMethodQuery); // one that a plain widget leaves
-    QWidget plain;
-    EXPECT_EQ(scroll->event(&qts), QCoreApplication::sendEvent(&plain, &qts));
-    QEvent polish(QEvent::LanguageChange);
-    EXPECT_TRUE(scroll->event(&polish));
+    EXPECT_FALSE(send(scroll, {900, Kind::Plain})) << "Qt's own range, and unknown to it";
     for (const int type : {1000, int(EVENT_WINDOW_ACTIVATE), int(EVENT_MOUSE_DOWN)}) {
         Incoming incoming{type, Kind::Event};
         incoming.sender = scroll->m_pDownBtn;

@@ -1,6 +1,10 @@
+// ListHop and SubComponents are not exported: lists, rows and headers are what tests them.
+
 #include "components/lists/TableTest.h"
 
-#include "common/tamfx/Node.h"
+#include <QPointer>
+
+#include <stdexcept>
 
 using namespace PANFx;
 using namespace PANFx::Testing;

@@ -155,6 +155,7 @@ TEST_F(ZELListTouchTest, everyOtherNumberAndClassIsToldOrSwallowed)
 TEST_F(ZELListTouchTest, anythingBelowAClickIsQtsAndMakesNoLine)
 {
     List* const list = full();
+    EXPECT_FALSE(send(list, {900, Kind::Plain})) << "Qt's own range, and unknown to it";
     for (const int type : {1000, int(EVENT_WINDOW_ACTIVATE), int(EVENT_MOUSE_DOWN)}) {
         for (const Kind kind : allKinds)
             EXPECT_EQ(handOver(list, {type, kind}), (Outcome{true, {}, {}})) << type;

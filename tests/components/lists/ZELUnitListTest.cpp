@@ -141,6 +141,7 @@ TEST_F(ZELUnitListTest, everyNumberAndClassIsToldOrSwallowed)
 TEST_F(ZELUnitListTest, anythingBelowAClickIsQtsAndMakesNoLine)
 {
     Units* const list = full();
+    EXPECT_FALSE(send(list, {900, Kind::Plain})) << "Qt's own range, and unknown to it";
     for (const int type : {1000, int(EVENT_WINDOW_ACTIVATE), int(EVENT_MOUSE_DOWN)}) {
         for (const Kind kind : allKinds)
             EXPECT_EQ(handOver(list, {type, kind}), (Outcome{true, {}, {}})) << type;
