@@ -9,7 +9,7 @@ ZELComponent* subComponentAt(ZELComponent& owner, int nIndex)
     if (nIndex < 0 || nIndex >= owner.getComponentCount())
         return nullptr;
     ZELComponent* component = owner.getSubComponent(nIndex);
-    return ZELComponent::isAlive(component) ? component : nullptr;
+    return ZELComponent::isPartOf(owner.getQWidget(), component) ? component : nullptr;
 }
 
 ZELComponent* firstOfType(ZELComponent& owner, const std::string& strType)

@@ -41,6 +41,11 @@ bool ZELComponent::isAlive(const ZELComponent* pComponent)
     return livingComponents().count(pComponent) != 0;
 }
 
+bool ZELComponent::isPartOf(const QWidget* pWidget, ZELComponent* pComponent)
+{
+    return isAlive(pComponent) && pWidget->isAncestorOf(pComponent->getQWidget());
+}
+
 void ZELComponent::createSubComponent(Node* pLayout)
 {
     if (!pLayout) {
@@ -58,7 +63,7 @@ void ZELComponent::createSubComponent(Node* pLayout)
 void ZELComponent::showSubComponent()
 {
     for (ZELComponent* component : m_dqSubComponents) {
-        if (isAlive(component))
+        if (isPartOf(getQWidget(), component))
             component->showWindow();
     }
 }
@@ -68,7 +73,7 @@ void ZELComponent::setLayout(Node*) {}
 void ZELComponent::hideSubComponent()
 {
     for (ZELComponent* component : m_dqSubComponents) {
-        if (isAlive(component))
+        if (isPartOf(getQWidget(), component))
             component->hideWindow();
     }
 }
@@ -82,17 +87,17 @@ ZELComponent* ZELComponent::getSubComponent(int nIndex)
 
 ZELComponent* ZELComponent::getSubComponent(std::string strID)
 {
-    const auto found = std::find_if(m_dqSubComponents.begin(), m_dqSubComponents.end(),
-                                    [&](const ZELComponent* component) {
-                                        return isAlive(component) && component->m_strID == strID;
-                                    });
+    const auto found = std::find_if(
+        m_dqSubComponents.begin(), m_dqSubComponents.end(), [&](ZELComponent* component) {
+            return isPartOf(getQWidget(), component) && component->m_strID == strID;
+        });
     return found == m_dqSubComponents.end() ? nullptr : *found;
 }
 
 ZELComponent* ZELComponent::findByWidget(const QObject* pWidget)
 {
     for (ZELComponent* component : m_dqSubComponents) {
-        if (!isAlive(component))
+        if (!isPartOf(getQWidget(), component))
             continue;
         if (component->getQWidget() == pWidget)
             return component;

@@ -70,6 +70,12 @@ public:
     /** Whether there still is a component at that address, which is only compared. */
     static bool isAlive(const ZELComponent* pComponent);
 
+    /**
+     * The same, and whether it lies in @p pWidget: another one may have come to lie where a
+     * component was that an application has deleted.
+     */
+    static bool isPartOf(const QWidget* pWidget, ZELComponent* pComponent);
+
     std::string m_strType; ///< kind of the component
 
     /** In order of creation, not owned; one that an application deletes leaves its entry behind. */

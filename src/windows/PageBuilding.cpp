@@ -61,19 +61,20 @@ void createPageComponents(TAMFx::Common::Xml::Node* pComponents, QWidget& parent
     Components::createComponents(pComponents, &parent, components, onFailure);
 }
 
-void showComponents(const std::deque<ZELComponent*>& components)
+void showComponents(const std::deque<ZELComponent*>& components, const QWidget& page)
 {
     for (ZELComponent* component : components) {
-        if (ZELComponent::isAlive(component))
+        if (ZELComponent::isPartOf(&page, component))
             component->showWindow();
     }
 }
 
-ZELComponent* findComponent(const std::deque<ZELComponent*>& components, const std::string& strID)
+ZELComponent* findComponent(const std::deque<ZELComponent*>& components, const QWidget& page,
+                            const std::string& strID)
 {
     const auto found =
-        std::find_if(components.begin(), components.end(), [&](const ZELComponent* component) {
-            return ZELComponent::isAlive(component) && component->m_strID == strID;
+        std::find_if(components.begin(), components.end(), [&](ZELComponent* component) {
+            return ZELComponent::isPartOf(&page, component) && component->m_strID == strID;
         });
     return found == components.end() ? nullptr : *found;
 }

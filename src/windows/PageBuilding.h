@@ -44,10 +44,10 @@ void createPageComponents(
     const std::function<void(const char* keyword, const char* id)>& onFailure);
 
 /** Calls showWindow() on each component, in the order of creation. */
-void showComponents(const std::deque<Components::ZELComponent*>& components);
+void showComponents(const std::deque<Components::ZELComponent*>& components, const QWidget& page);
 
 /** The first component with that id; null when there is none. */
 Components::ZELComponent* findComponent(const std::deque<Components::ZELComponent*>& components,
-                                        const std::string& strID);
+                                        const QWidget& page, const std::string& strID);
 
 } // namespace PANFx::Windows

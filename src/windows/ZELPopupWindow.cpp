@@ -15,6 +15,33 @@ namespace PANFx::Windows {
 using Components::ZELComponent;
 using TAMFx::Common::Xml::Node;
 
+namespace {
+
+// Marks a dialog while it runs by exec, also when an exception passes, unless it is gone by then.
+class ExecMode
+{
+public:
+    ExecMode(const QPointer<QWidget>& alive, bool& bMode)
+        : m_alive(alive)
+        , m_bMode(bMode)
+    {
+        m_bMode = true;
+    }
+    ExecMode(const ExecMode&) = delete;
+    ExecMode& operator=(const ExecMode&) = delete;
+    ~ExecMode()
+    {
+        if (m_alive)
+            m_bMode = false;
+    }
+
+private:
+    const QPointer<QWidget> m_alive;
+    bool& m_bMode;
+};
+
+} // namespace
+
 ZELPopupWindow::ZELPopupWindow(std::string strID, QWidget* pParent)
     : ZELWindow(std::move(strID))
     , QDialog(pParent, Qt::FramelessWindowHint)
@@ -49,7 +76,7 @@ void ZELPopupWindow::createSubComponent(Node* pComponents)
 
 void ZELPopupWindow::showSubComponent()
 {
-    showComponents(m_dqSubComponents);
+    showComponents(m_dqSubComponents, *this);
 }
 
 void ZELPopupWindow::createBackgroundSubComponent(std::string strImage)
@@ -59,7 +86,7 @@ void ZELPopupWindow::createBackgroundSubComponent(std::string strImage)
 
 ZELComponent* ZELPopupWindow::getSubComponent(std::string strID)
 {
-    ZELComponent* component = findComponent(m_dqSubComponents, strID);
+    ZELComponent* component = findComponent(m_dqSubComponents, *this, strID);
     if (!component)
         m_logger.WriteError("[%s] Fail to get component (%s)", "getSubComponent", strID.c_str());
     return component;
@@ -85,6 +112,10 @@ void ZELPopupWindow::reject()
 
 int ZELPopupWindow::exec()
 {
+    if (m_bExecMode) {
+        m_logger.WriteError("[%s] %s runs already", "exec", m_strID.c_str());
+        return m_nPopupResult;
+    }
     if (m_bLoopMode) {
         // accept and reject end the other loop, so this one would never end
         m_logger.WriteError("[%s] %s has run by showAndWait", "exec", m_strID.c_str());
@@ -92,17 +123,14 @@ int ZELPopupWindow::exec()
     }
     QWidget* widget = this;
     const QPointer<QWidget> alive(widget);
-    m_bExecMode = true;
+    const ExecMode execMode(alive, m_bExecMode);
     playPopupSound();
     activating();
     if (!alive)
         return -1;
     QCoreApplication::postEvent(widget, new ZELEvent(EVENT_WINDOW_ACTIVATE));
     QDialog::exec();
-    if (!alive)
-        return -1;
-    m_bExecMode = false;
-    return m_nPopupResult;
+    return alive ? m_nPopupResult : -1;
 }
 
 int ZELPopupWindow::showAndWait()
@@ -120,6 +148,8 @@ int ZELPopupWindow::showAndWait()
     if (!alive)
         return -1;
     setVisible(true);
+    if (!alive)
+        return -1;
     eventLoopExec();
     return alive ? m_nPopupResult : -1;
 }

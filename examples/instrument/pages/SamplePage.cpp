@@ -66,7 +66,8 @@ void SamplePage::activating()
     if (m_pName != nullptr)
         m_pName->setText(QString::fromStdString(settings.strSampleName));
     if (m_pCode != nullptr) {
-        m_pCode->setText(QString::fromStdString(settings.strSampleCode));
+        m_strCode = QString::fromStdString(settings.strSampleCode);
+        m_pCode->setText(m_strCode);
         m_pCode->setShowMode(true);
     }
     setShift(false);
@@ -200,9 +201,15 @@ void SamplePage::takeCode()
 {
     if (m_pCode == nullptr || !m_pCode->hasFocus())
         return;
+    if (m_pCode->text().isEmpty()) {
+        // a lone enter has emptied the field, as any first key does: the code before stays
+        m_pCode->setText(m_strCode);
+    } else {
+        m_strCode = m_pCode->text();
+        SoundFactory::getInstance()->playCompleteSound();
+    }
     m_pCode->setShowMode(true);
     m_pCode->update();
-    SoundFactory::getInstance()->playCompleteSound();
 }
 
 void SamplePage::finish()

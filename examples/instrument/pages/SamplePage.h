@@ -49,5 +49,6 @@ private:
     PANFx::Components::ZELLineEdit* m_pCode;
     Language m_language = latin;
     bool m_bShift = false;
+    QString m_strCode;      ///< the code that the field shows
     bool m_bErased = false; ///< the key that is held has erased already
 };

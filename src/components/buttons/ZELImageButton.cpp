@@ -172,8 +172,8 @@ void ZELImageButton::setElidedText(bool)
 
 void ZELImageButton::setOrgPos(int nX, int nY)
 {
-    m_nOrgX = std::clamp(nX, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    m_nOrgY = std::clamp(nY, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    m_nOrgX = heldPixels(nX);
+    m_nOrgY = heldPixels(nY);
 }
 
 void ZELImageButton::setDimMode(bool bDimMode)

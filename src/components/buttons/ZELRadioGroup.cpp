@@ -4,6 +4,7 @@
 #include "common/tamfx/Object.h"
 #include "components/buttons/ZELRadioButton.h"
 #include "components/support/LayoutPosition.h"
+#include "components/support/PostToParent.h"
 #include "components/support/ReceivedEvent.h"
 #include "events/EventNumbers.h"
 #include "events/ZELEvent.h"
@@ -84,7 +85,7 @@ void ZELRadioGroup::addButton()
     m_entries.clear();
     for (int i = 0; i < getComponentCount(); ++i) {
         ZELComponent* component = getSubComponent(i);
-        if (!isAlive(component) || component->m_strType != "ZELRadioButton")
+        if (!isPartOf(this, component) || component->m_strType != "ZELRadioButton")
             continue;
         m_entries.push_back(std::make_unique<Entry>(static_cast<ZELRadioButton*>(component)));
         m_buttons.AddObj(component->m_strID.c_str(), m_entries.back().get());
@@ -187,12 +188,9 @@ void ZELRadioGroup::handleClick(const QObject* pSender)
         else
             m_logger.WriteError("[%s] %s does not hold the sender", "event", m_strID.c_str());
     }
-    if (!parent()) {
-        m_logger.WriteError("[%s] %s has no parent", "event", m_strID.c_str());
-        return;
-    }
-    QCoreApplication::postEvent(parent(),
-                                new ZELEvent(EVENT_MOUSE_UP, const_cast<QObject*>(pSender), ""));
+    postToParent(this,
+                 std::make_unique<ZELEvent>(EVENT_MOUSE_UP, const_cast<QObject*>(pSender), ""),
+                 m_strID, m_logger, "event");
 }
 
 } // namespace PANFx::Components

@@ -86,12 +86,12 @@ void ZELTab::addTabPage()
 
 bool ZELTab::addPair(ZELComponent* pButton, ZELComponent* pPage)
 {
-    if (!isAlive(pButton)) {
+    if (!isPartOf(this, pButton)) {
         m_logger.WriteError("[%s] TabButton is NULL", "addTabPage");
         m_logger.WriteError("[%s] TabPage is NULL", "addTabPage");
         return false;
     }
-    if (!isAlive(pPage))
+    if (!isPartOf(this, pPage))
         return false;
     if (pButton->m_strType != "ZELTabButton" || pPage->m_strType != "ZELTabPage") {
         m_logger.WriteError("[%s] Type1 : %s /// Type2 : %s", "addTabPage",

@@ -27,7 +27,7 @@ ZELEditRange::ZELEditRange(QWidget* pParent, std::string strID, std::string strT
 
 ZELEditRange::~ZELEditRange()
 {
-    if (isAlive(m_pEditor))
+    if (isPartOf(this, m_pEditor))
         delete m_pEditor;
 }
 

@@ -21,9 +21,9 @@ namespace {
 
 // not "destroy": QWidget has an operation of that name, which would be taken instead
 template <typename Component>
-void deleteLiving(Component*& component)
+void deleteLiving(const QWidget& range, Component*& component)
 {
-    if (ZELComponent::isAlive(component))
+    if (ZELComponent::isPartOf(&range, component))
         delete component;
     component = nullptr;
 }
@@ -38,9 +38,9 @@ ZELRange::ZELRange(QWidget* pParent, std::string strID, std::string strType, Nod
 
 ZELRange::~ZELRange()
 {
-    deleteLiving(m_pUpBtn);
-    deleteLiving(m_pDownBtn);
-    deleteLiving(m_pExtra);
+    deleteLiving(*this, m_pUpBtn);
+    deleteLiving(*this, m_pDownBtn);
+    deleteLiving(*this, m_pExtra);
 }
 
 void ZELRange::setSoundMode(bool bSoundMode)

@@ -37,9 +37,9 @@ ZELRoundProgressBar::ZELRoundProgressBar(QWidget* pParent, std::string strID, st
 
 ZELRoundProgressBar::~ZELRoundProgressBar()
 {
-    if (isAlive(m_pBGBox))
+    if (isPartOf(this, m_pBGBox))
         delete m_pBGBox;
-    if (isAlive(m_pRoundBox))
+    if (isPartOf(this, m_pRoundBox))
         delete m_pRoundBox;
 }
 

@@ -122,7 +122,7 @@ void ZELComboList::readImages(Node* pImage)
 
 ZELListScroll* ZELComboList::scroll()
 {
-    return isAlive(m_pListScroll) ? m_pListScroll : nullptr;
+    return isPartOf(this, m_pListScroll) ? m_pListScroll : nullptr;
 }
 
 int ZELComboList::getTotalPage()

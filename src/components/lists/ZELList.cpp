@@ -110,18 +110,18 @@ void ZELList::readBackground(Node* pImage)
 
 int ZELList::getNowPage()
 {
-    return isAlive(m_pListScroll) ? m_pListScroll->m_nNowPage : -1;
+    return isPartOf(this, m_pListScroll) ? m_pListScroll->m_nNowPage : -1;
 }
 
 void ZELList::setNowPage(int nPage)
 {
-    if (isAlive(m_pListScroll))
+    if (isPartOf(this, m_pListScroll))
         m_pListScroll->setListNowPage(nPage);
 }
 
 void ZELList::setTotalPage(int nTotal)
 {
-    if (isAlive(m_pListScroll))
+    if (isPartOf(this, m_pListScroll))
         m_pListScroll->setListTotalPage(nTotal);
 }
 
@@ -148,7 +148,7 @@ ZELComponent* ZELList::getItemComponent(int nRow, int nColumn)
 
 ZELListHeader* ZELList::header(const char* pszOperation)
 {
-    if (isAlive(m_pListHeader))
+    if (isPartOf(this, m_pListHeader))
         return m_pListHeader;
     m_logger.WriteError("[%s] %s has no header", pszOperation, m_strID.c_str());
     return nullptr;
@@ -226,7 +226,7 @@ void ZELList::handleClick(const ZELListEvent& event)
     ZELComponent* cell = nullptr;
     if (!event.m_bHeader)
         cell = getItemComponent(event.m_nRow, event.m_nColumn);
-    else if (isAlive(m_pListHeader))
+    else if (isPartOf(this, m_pListHeader))
         cell = subComponentAt(*m_pListHeader, event.m_nColumn);
     if (!cell)
         return;

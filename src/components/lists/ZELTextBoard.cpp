@@ -148,7 +148,7 @@ void ZELTextBoard::setText(std::string strText)
 
     m_nTotalPage = countPages();
     m_nNowPage = 1;
-    if (isAlive(m_pScroll)) {
+    if (isPartOf(this, m_pScroll)) {
         m_pScroll->setListTotalPage(m_nTotalPage);
         m_pScroll->setListNowPage(m_nNowPage);
     } else {
@@ -224,7 +224,7 @@ bool ZELTextBoard::event(QEvent* pEvent)
     const QEvent::Type type = pEvent->type();
     if (type < EVENT_MOUSE_UP)
         return QWidget::event(pEvent);
-    if ((type == EVENT_PAGE_UP || type == EVENT_PAGE_DOWN) && isAlive(m_pScroll)) {
+    if ((type == EVENT_PAGE_UP || type == EVENT_PAGE_DOWN) && isPartOf(this, m_pScroll)) {
         m_nNowPage = m_pScroll->m_nNowPage;
         update();
     }

@@ -39,10 +39,17 @@ public:
     /** The index of the second language, shifted where there is a shifted code. */
     int getKeyIndex(bool bShift);
 
-    /** Shows the shifted or the plain face; a key without a shifted code keeps its face. */
+    /**
+     * Shows the shifted or the plain face and repaints; a key without a shifted code keeps its
+     * face. In language 2 the faces are the titles of "lang2", also where one is missing. In any
+     * other they are the low byte of the code, and the layout's title never comes back.
+     */
     void setShiftMode(short nLang, bool bShift);
 
-    /** Shows the plain face of a language, 1 or 2; other numbers change nothing. */
+    /**
+     * Shows the plain face of a language, 1 or 2, and repaints; other numbers change nothing. In
+     * language 1 that is the low byte of the code, 0xFF where there is none.
+     */
     void changeKeyTitle(short nLang);
 
     /** The number at the start of a text; -1 when there is none. */

@@ -36,9 +36,9 @@ constexpr float dimmed = 0.6F;
 
 enum KeySet { doubleZero, point, comma, timeOfDay, userDefined };
 
-void showKey(ZELImageButton* key, bool visible)
+void showKey(const QWidget& pad, ZELImageButton* key, bool visible)
 {
-    if (ZELComponent::isAlive(key))
+    if (ZELComponent::isPartOf(&pad, key))
         key->setVisible(visible);
 }
 
@@ -162,19 +162,19 @@ void ZELNumPad::setType(int nType)
 {
     m_nType = nType;
     if (nType >= doubleZero && nType <= userDefined) {
-        showKey(m_pNumBtn[0], nType != doubleZero);
-        showKey(m_pNum00Btn, nType == doubleZero);
+        showKey(*this, m_pNumBtn[0], nType != doubleZero);
+        showKey(*this, m_pNum00Btn, nType == doubleZero);
     }
-    showKey(m_pDotBtn, nType == point);
-    showKey(m_pCommaBtn, nType == comma);
-    showKey(m_pAmpmBtn, nType == timeOfDay);
-    showKey(m_pEmptyBtn, nType == userDefined);
+    showKey(*this, m_pDotBtn, nType == point);
+    showKey(*this, m_pCommaBtn, nType == comma);
+    showKey(*this, m_pAmpmBtn, nType == timeOfDay);
+    showKey(*this, m_pEmptyBtn, nType == userDefined);
 }
 
 void ZELNumPad::setPopupMode(bool bPopup)
 {
     m_bPopupMode = bPopup;
-    showKey(m_pCloseBtn, bPopup);
+    showKey(*this, m_pCloseBtn, bPopup);
     update();
 }
 
@@ -187,7 +187,7 @@ void ZELNumPad::setEnable(bool bEnable)
 void ZELNumPad::setUserDefineButtonTitle(std::string strTitle)
 {
     m_strUserDefine = std::move(strTitle);
-    if (isAlive(m_pEmptyBtn))
+    if (isPartOf(this, m_pEmptyBtn))
         m_pEmptyBtn->setTitle(m_strUserDefine);
 }
 

@@ -212,7 +212,6 @@ void ZELLineEdit::paintEvent(QPaintEvent*)
         return;
     }
     painter.setFont(*m_pFont->m_pFont);
-    painter.setPen(*m_pFont->m_pColor);
     drawFieldText(painter, field, *m_pFont, m_rcText, m_nAlign);
 }
 

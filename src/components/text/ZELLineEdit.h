@@ -60,6 +60,11 @@ public:
     /** In barcode mode: the next paint takes the field's text over, and the next key empties it. */
     void setShowMode(bool bShowMode);
 
+    /**
+     * In barcode mode the field shows the code that was last taken over. The first key after that,
+     * whichever it is but Scroll Lock, empties the field, and all keys go in unseen. Switching on
+     * forgets a setShowMode() that waits for its paint. Doesn't repaint.
+     */
     void setBarcodeMode(bool bBarcodeMode);
 
     /** Makes three pieces current, not owned, and repaints. @return whether all are set */
