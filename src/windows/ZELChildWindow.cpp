@@ -1,7 +1,10 @@
 #include "windows/ZELChildWindow.h"
 
 #include "common/tamfx/Exception.h"
+#include "print/Capture.h"
 #include "windows/PageBuilding.h"
+
+#include <QDateTime>
 
 #include <utility>
 
@@ -48,7 +51,7 @@ void ZELChildWindow::createSubComponent(Node* pComponents)
 
 void ZELChildWindow::showSubComponent()
 {
-    showComponents(m_dqSubComponents);
+    showComponents(m_dqSubComponents, *this);
 }
 
 void ZELChildWindow::activating() {}
@@ -70,11 +73,18 @@ void ZELChildWindow::createBackgroundSubComponent(std::string strImage)
 
 ZELComponent* ZELChildWindow::getSubComponent(std::string strID)
 {
-    ZELComponent* component = findComponent(m_dqSubComponents, strID);
+    ZELComponent* component = findComponent(m_dqSubComponents, *this, strID);
     if (!component)
         m_logger.WriteError("[%s] There is not a SubComponent of the name %s", "getSubComponent",
                             strID.c_str());
     return component;
+}
+
+void ZELChildWindow::CaptureView()
+{
+    const QString now = QDateTime::currentDateTime().toString(QStringLiteral("yyMMdd_hhmmss.jpg"));
+    const std::string name = "/tmp/screen_" + m_strResourceID + now.toStdString();
+    Capture::viewCapture(100, name.c_str());
 }
 
 } // namespace PANFx::Windows

@@ -66,6 +66,12 @@ public:
      */
     Components::ZELComponent* getSubComponent(std::string strID);
 
+    /**
+     * Saves a picture of the whole screen as "/tmp/screen_<resource>yyMMdd_hhmmss.jpg", with the
+     * local time and no separator before it. Failures are not reported.
+     */
+    void CaptureView();
+
     std::string m_strResourceID; ///< name of the layout file without path or extension
     std::deque<Components::ZELComponent*> m_dqSubComponents; ///< in order of creation, not owned
 
