@@ -15,7 +15,7 @@ ZELComponent* createFrom(const std::vector<ComponentEntry>& table, QWidget* pare
 {
     for (const ComponentEntry& entry : table) {
         if (keyword == entry.keyword)
-            return entry.create ? entry.create(parent, std::move(id), entry.type, layout) : nullptr;
+            return entry.create(parent, std::move(id), entry.type, layout);
     }
     return nullptr;
 }

@@ -21,7 +21,7 @@ struct ComponentEntry
     const char* keyword;
     const char* type; ///< the component's type string
 
-    /** Makes the component as a child of the widget; null where the class does not exist yet. */
+    /** Makes the component as a child of the widget. */
     ZELComponent* (*create)(QWidget* pParent, std::string strID, std::string strType,
                             TAMFx::Common::Xml::Node* pLayout);
 };

@@ -6,6 +6,7 @@
 #include "support/SoundProbe.h"
 #include "windows/ZELPopupWindow.h"
 
+#include <QEvent>
 #include <QTimer>
 
 #include <algorithm>

@@ -2,7 +2,6 @@
 
 #include "common/tamfx/XmlDocument.h"
 #include "common/tamfx/XmlException.h"
-#include "components/ComponentTable.h"
 #include "components/ZELComponent.h"
 #include "support/EventLoop.h"
 #include "support/JournalPage.h"
@@ -19,7 +18,6 @@
 
 using namespace PANFx;
 using namespace PANFx::Testing;
-using Components::ComponentEntry;
 using Windows::ZELChildWindow;
 
 namespace {
@@ -279,28 +277,6 @@ TEST_F(ZELChildWindowLayoutTest, unknownKeywords)
     EXPECT_EQ(ids(show(withLabel("<slider><a/><b/></slider><Label><c/></Label>"
                                  "<listbutton><d/></listbutton><buttonlist><e/></buttonlist>"))),
               Strings{"l"});
-}
-
-TEST_F(ZELChildWindowLayoutTest, aKeywordWhoseClassDoesNotExistYet)
-{
-    Strings keywords;
-    for (const auto* table :
-         {&Components::componentTable(), &Components::buttonTable(), &Components::listTable()}) {
-        for (const ComponentEntry& entry : *table) {
-            if (!entry.create)
-                keywords.emplace_back(entry.keyword);
-        }
-    }
-    if (keywords.empty())
-        GTEST_SKIP() << "every keyword has its class";
-    std::string groups;
-    for (const std::string& keyword : keywords) {
-        groups += "<" + keyword + "><the_" + keyword + "/></" + keyword + ">";
-        log().expectError("[createSubComponent] Fail to create components the_" + keyword, 1,
-                          "ZELChildWindow");
-    }
-    expectNoBackgroundLines();
-    EXPECT_EQ(ids(show(withLabel(groups))), Strings{"l"});
 }
 
 TEST_F(ZELChildWindowLayoutTest, textAndCommentsBetweenTheElements)

@@ -9,6 +9,10 @@
 #include "windows/PopupTest.h"
 
 #include <QCoreApplication>
+#include <QPointer>
+
+#include <stdexcept>
+#include <utility>
 
 using namespace PANFx;
 using namespace PANFx::Testing;
@@ -20,6 +24,21 @@ namespace {
 class ZELPopupWindowRunTest : public PopupTest
 {
 protected:
+    /** Runs a dialog by one of its forms, and ends it from inside. */
+    static int run(Dialog& shown, bool waits, void (QDialog::*end)() = &QDialog::accept)
+    {
+        const auto reached = std::make_shared<bool>(false); // both outlived by one that is refused
+        const QPointer<QDialog> dialog(&shown);
+        inTheLoop([=] {
+            *reached = true;
+            if (dialog)
+                (dialog->*end)();
+        });
+        const int result = waits ? shown.showAndWait() : shown.exec();
+        EXPECT_TRUE(*reached) << "it did not wait";
+        return result;
+    }
+
     /** A button on the panel, green and blue while held, that a finger is on. */
     std::unique_ptr<Opened<ZELImageButton>> heldBeneath()
     {
@@ -152,11 +171,25 @@ TEST_F(ZELPopupWindowRunTest, theSoundCanBeSwitchedOffForBothForms)
 {
     for (const bool waits : {false, true}) {
         const auto shown = dialog();
+        const int before = popups();
         shown->setSoundPlay(false);
-        inTheLoop([&] { shown->accept(); });
-        waits ? shown->showAndWait() : shown->exec();
+        run(*shown, waits);
+        EXPECT_EQ(popups(), before) << waits;
+        shown->setSoundPlay(true);
+        run(*shown, waits);
+        EXPECT_EQ(popups(), before + 1) << waits << " and on again";
     }
-    EXPECT_EQ(popups(), 0);
+}
+
+TEST_F(ZELPopupWindowRunTest, theResultIsTheApplicationsAloneAndStaysForTheNextRun)
+{
+    for (const bool waits : {false, true}) {
+        const auto shown = dialog();
+        shown->m_nPopupResult = 9;
+        EXPECT_EQ(run(*shown, waits), 9) << waits;
+        EXPECT_EQ(shown->m_nPopupResult, 9) << waits;
+        EXPECT_EQ(run(*shown, waits, &QDialog::reject), 9) << waits << " a second time";
+    }
 }
 
 TEST_F(ZELPopupWindowRunTest, pagesBeneathGoOnWhileItWaits)
@@ -239,6 +272,48 @@ TEST_F(ZELPopupWindowRunTest, aWaitInsideExecIsRefusedSoThatAcceptStillEndsIt)
     EXPECT_EQ(shown->exec(), 4);
     EXPECT_EQ(shown->result(), int(QDialog::Accepted));
     EXPECT_EQ(popups(), 1);
+}
+
+TEST_F(ZELPopupWindowRunTest, execInsideExecIsRefusedSoThatOneAcceptEndsIt)
+{
+    const auto shown = dialog();
+    log().expectError("[exec] ask runs already", 2, "ZELPopupWindow");
+    const auto nested = [&](int result) {
+        shown->m_nPopupResult = result;
+        EXPECT_EQ(shown->exec(), result);
+    };
+    bool activated = false;
+    shown->m_atActivating = [&] {
+        if (!std::exchange(activated, true))
+            nested(2);
+    };
+    bool visible = false;
+    inTheLoop([&] {
+        nested(3);
+        visible = shown->isVisible();
+        inTheLoop([&] { shown->accept(); }); // behind what is queued already
+    });
+    EXPECT_EQ(shown->exec(), 3);
+    EXPECT_TRUE(visible) << "the refused one ended nothing";
+    EXPECT_EQ(*shown->m_steps, (Strings{"activating", "show", "event 1550", "hide"}));
+    EXPECT_EQ(popups(), 1);
+    shown->m_atActivating = nullptr;
+    EXPECT_EQ(run(*shown, false), 3) << "and the next one runs";
+    EXPECT_EQ(popups(), 2);
+}
+
+TEST_F(ZELPopupWindowRunTest, anExceptionOutOfActivatingLeavesItUsable)
+{
+    for (const bool waits : {false, true}) {
+        const auto shown = dialog();
+        shown->m_nPopupResult = 8;
+        shown->m_atActivating = [] { throw std::runtime_error("no"); };
+        EXPECT_THROW(shown->exec(), std::runtime_error);
+        EXPECT_FALSE(shown->isVisible());
+        shown->m_atActivating = nullptr;
+        EXPECT_EQ(run(*shown, waits), 8) << waits;
+        EXPECT_EQ(shown->m_bLoopMode, waits);
+    }
 }
 
 TEST_F(ZELPopupWindowRunTest, afterExecItCanStillWait)

@@ -4,6 +4,7 @@
 #include "common/tamfx/Node.h"
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
+#include "components/support/InOnePlace.h"
 #include "support/FrameForTest.h"
 #include "support/LibraryFaults.h"
 #include "support/Pixels.h"
@@ -50,7 +51,6 @@ TEST_F(ZELPopupWindowTest, startsWithItsDefaults)
     EXPECT_EQ(shown->m_eventLoop->parent(), nullptr);
     EXPECT_EQ(shown->getPopupTag(), "");
     EXPECT_TRUE(shown->m_dqSubComponents.empty());
-    EXPECT_EQ(*shown->m_steps, Strings{}) << "the constructor calls nothing of a derived class";
 }
 
 TEST_F(ZELPopupWindowTest, fillsThePanelWithoutAFrame)
@@ -145,6 +145,40 @@ TEST_F(ZELPopupWindowTest, tellsWhatItCannotBuild)
                       "ZELPopupWindow");
     const auto shown = dialog("<nosuch><x/></nosuch>");
     EXPECT_TRUE(shown->m_dqSubComponents.empty());
+}
+
+TEST_F(ZELPopupWindowTest, buildsWhatComesBehindAFailure)
+{
+    writePicture("up.png", 20, 20, Qt::green);
+    for (const char* const id : {"x", "z"})
+        log().expectError("[createSubComponent] Fail to create a component (nosuch, " +
+                              std::string(id) + ")",
+                          1, "ZELPopupWindow");
+    const auto shown = dialog("<nosuch><x/><z/></nosuch>" + button("yes") + button("no"));
+    ASSERT_EQ(shown->m_dqSubComponents.size(), 2u);
+    EXPECT_EQ(shown->m_dqSubComponents[0]->m_strID, "yes");
+    EXPECT_EQ(shown->m_dqSubComponents[1]->m_strID, "no");
+}
+
+TEST_F(ZELPopupWindowTest, whatLiesWhereADeletedComponentWasIsNotTouched)
+{
+    const auto shown = dialog();
+    const auto make = [&](QWidget* parent) {
+        return new InOnePlace<ZELImageButton>(
+            parent, "yes", "ZELImageButton",
+            element("<yes><image up='up.png' down='up.png'/></yes>"));
+    };
+    writePicture("up.png", 20, 20, Qt::green);
+    shown->m_dqSubComponents.push_back(make(shown.get()));
+    EXPECT_NE(shown->getSubComponent("yes"), nullptr);
+    delete shown->getSubComponent("yes");
+    log().expectError("[getSubComponent] Fail to get component (yes)", 2, "ZELPopupWindow");
+    EXPECT_EQ(shown->getSubComponent("yes"), nullptr);
+    const std::unique_ptr<ZELImageButton> other(make(&panel()));
+    ASSERT_EQ(shown->m_dqSubComponents[0], other.get());
+    shown->showSubComponent();
+    EXPECT_TRUE(other->isHidden());
+    EXPECT_EQ(shown->getSubComponent("yes"), nullptr);
 }
 
 TEST_F(ZELPopupWindowTest, tellsThatTheSectionIsMissing)

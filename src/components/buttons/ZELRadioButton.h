@@ -2,6 +2,8 @@
 
 #include "components/buttons/ZELImageButton.h"
 
+#include <QEvent>
+
 #include <string>
 
 namespace PANFx::Components {

@@ -3,6 +3,7 @@
 #include "common/tamfx/ArrayList.h"
 #include "components/ZELComponent.h"
 
+#include <QEvent>
 #include <QWidget>
 
 #include <string>

@@ -2,6 +2,7 @@
 
 #include "components/ZELComponent.h"
 
+#include <QEvent>
 #include <QWidget>
 
 #include <string>

@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
@@ -187,6 +188,24 @@ protected:
     {
         return inside.width() * inside.height() - Pixels::count(image, Qt::black, inside) -
                Pixels::count(image, Qt::white, inside);
+    }
+
+    /**
+     * What none of our classes takes goes on to QWidget, whose answer is returned: keys are not
+     * accepted, and what QWidget does not know gives false.
+     */
+    static void expectWidgetsAnswers(QWidget* widget)
+    {
+        QObject* const receiver = widget; // there, event() is open
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+        key.accept();
+        EXPECT_TRUE(receiver->event(&key));
+        EXPECT_FALSE(key.isAccepted());
+        QEvent unknown(QEvent::Clipboard);
+        EXPECT_FALSE(receiver->event(&unknown));
+        widget->setDisabled(true);
+        EXPECT_FALSE(receiver->event(&key)) << "of a disabled widget";
+        widget->setDisabled(false);
     }
 
     /** The touch sounds so far. */

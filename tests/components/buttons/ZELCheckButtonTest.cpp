@@ -209,15 +209,6 @@ TEST_F(ZELCheckButtonTest, theTitleIsDrawnAsAnImageButtonDrawsIt)
     EXPECT_TRUE(Pixels::same(seen(whole), expected));
 }
 
-TEST_F(ZELCheckButtonTest, writingTheStateRepaintsNothing)
-{
-    auto* const button = make<Check>(ok());
-    const PaintCounter paints(button);
-    button->m_bChecked = true;
-    EventLoop::deliver();
-    EXPECT_EQ(paints.count(), 0);
-}
-
 TEST_F(ZELCheckButtonTest, thePictureIsScaledSmoothlyInBothStates)
 {
     writeHalves("halves.png");

@@ -327,6 +327,59 @@ TEST_F(ZELIconCheckButtonTest, theIconFadesWhenChecked)
     EXPECT_EQ(faded.blue(), 255);
 }
 
+TEST_F(ZELIconCheckButtonTest, theIconLiesOverTheTextAndFadesAlone)
+{
+    const QRect textRect(0, 0, 100, 50);
+    auto* const button = row("<icon image='square.png'/>"
+                             "<textL title='HHHH' x='0' y='0' width='100' height='50'/>"
+                             "<textR title='RR' x='3' y='16' width='20' height='20' align='left'/>",
+                             "style='normal' pressstyle='pressed'");
+    for (const bool checked : {false, true}) {
+        button->m_bChecked = checked;
+        const std::string name = checked ? "pressed" : "normal";
+        const QColor ink = checked ? Qt::red : Qt::black;
+        QImage expected = filled(QSize(200, 50), checked ? Qt::blue : Qt::green);
+        drawText(expected, QStringLiteral("HHHH"), textRect, toTheLeft, name, ink);
+        drawText(expected, QStringLiteral("RR"), QRect(3, 16, 20, 20), toTheLeft, name, ink);
+        ASSERT_GT(Pixels::count(expected, ink, QRect(3, 16, 20, 20)), 0) << "it overlaps";
+        QPainter painter(&expected);
+        painter.setOpacity(checked ? 0.3 : 1.0);
+        painter.drawPixmap(QRect(3, 16, 20, 20), *picture("square.png"), QRect());
+        painter.end();
+        EXPECT_TRUE(Pixels::same(Pixels::grab(button), expected)) << name;
+    }
+}
+
+TEST_F(ZELIconCheckButtonTest, uncheckedInDimModeItShowsTheDimPicture)
+{
+    auto* const button = row("");
+    button->setDimMode(true);
+    EXPECT_TRUE(Pixels::same(Pixels::grab(button), filled(QSize(200, 50), Qt::yellow)));
+    button->m_bChecked = true;
+    EXPECT_TRUE(Pixels::same(Pixels::grab(button), filled(QSize(200, 50), Qt::blue)));
+}
+
+TEST_F(ZELIconCheckButtonTest, theLongPressOfItsLayoutTicks)
+{
+    auto* const button = row("", "longpress='true'");
+    Touch::press(button);
+    tick(button);
+    Touch::release(button);
+    EXPECT_EQ(panel().takeTypes(), (Types{EVENT_LONG_PRESS, EVENT_MOUSE_UP}));
+    EXPECT_TRUE(button->m_bChecked);
+}
+
+TEST_F(ZELIconCheckButtonTest, aNewTitleIsTheLeftText)
+{
+    auto* const button =
+        row("<textL title='LL' x='5' y='0' width='60' height='50'/>", "style='normal'");
+    button->setTitle("\xC3\x84H");
+    QImage expected = filled(QSize(200, 50), Qt::green);
+    drawText(expected, QString(QChar(0xC4)) + QLatin1Char('H'), QRect(5, 0, 60, 50), toTheLeft,
+             "normal", Qt::black);
+    EXPECT_TRUE(Pixels::same(Pixels::grab(button), expected));
+}
+
 TEST_F(ZELIconCheckButtonTest, theIconCanBeHiddenAndChanged)
 {
     auto* const button = row("<icon image='square.png'/>");

@@ -4,6 +4,10 @@
 
 #include <QEasingCurve>
 
+#include <cstdlib>
+#include <dlfcn.h>
+#include <limits>
+
 using namespace PANFx;
 using namespace PANFx::Testing;
 using Components::ZELImageButton;
@@ -11,6 +15,24 @@ using Components::ZELImageButton;
 namespace {
 
 using Button = Opened<ZELImageButton>;
+
+std::vector<double> amplitudes; // all that were set
+
+} // namespace
+
+// Stands in front of Qt's own: a curve that goes back beyond its end forgets the amplitude when
+// it is copied, and what the animation gives away is a copy.
+void QEasingCurve::setAmplitude(qreal amplitude)
+{
+    amplitudes.push_back(amplitude);
+    using Function = void (*)(QEasingCurve*, qreal);
+    void* const next = dlsym(RTLD_NEXT, "_ZN12QEasingCurve12setAmplitudeEd");
+    if (!next)
+        std::abort();
+    reinterpret_cast<Function>(next)(this, amplitude);
+}
+
+namespace {
 
 class ZELImageButtonAnimationTest : public ButtonTest
 {
@@ -52,6 +74,62 @@ TEST_F(ZELImageButtonAnimationTest, aReleaseInMidFlightStartsWhereTheButtonIs)
     Touch::release(button);
     EXPECT_EQ(button->m_animation.startValue().toRect(), QRect(12, 22, 80, 40));
     EXPECT_EQ(button->m_animation.endValue().toRect(), place);
+}
+
+TEST_F(ZELImageButtonAnimationTest, aTouchInMidFlightStartsTheWholeTimeAnew)
+{
+    auto* const button = make<Button>(pushed());
+    const auto inMidFlight = [&](const auto& touch) {
+        button->m_animation.setCurrentTime(75);
+        touch(button);
+        EXPECT_EQ(button->m_animation.currentTime(), 0);
+        EXPECT_EQ(button->m_animation.state(), QAbstractAnimation::Running);
+    };
+    Touch::press(button);
+    inMidFlight([](QWidget* held) { Touch::release(held); });
+    inMidFlight([](QWidget* released) { Touch::press(released); });
+}
+
+TEST_F(ZELImageButtonAnimationTest, pressAndReleaseDifferInTheirAmplitudes)
+{
+    auto* const button = make<Button>(pushed());
+    amplitudes.clear();
+    Touch::press(button);
+    EXPECT_EQ(amplitudes, std::vector<double>{0.8});
+    Touch::release(button);
+    EXPECT_EQ(amplitudes, (std::vector<double>{0.8, 0.5}));
+}
+
+TEST_F(ZELImageButtonAnimationTest, aPressStartsWhereTheButtonIs)
+{
+    auto* const button = make<Button>(pushed());
+    button->move(50, 60);
+    Touch::press(button);
+    EXPECT_EQ(button->m_animation.startValue().toRect(), QRect(50, 60, 80, 40));
+    EXPECT_EQ(button->m_animation.endValue().toRect(), place.translated(3, 3));
+}
+
+TEST_F(ZELImageButtonAnimationTest, aRestPositionBeyondAllScreensIsHeldAtWhatAWidgetTakes)
+{
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int most = std::numeric_limits<int>::max();
+    auto* const button = make<Button>(pushed());
+    const auto expectEnds = [&] {
+        Touch::press(button);
+        EXPECT_EQ(button->m_animation.endValue().toRect().topLeft(),
+                  QPoint(QWIDGETSIZE_MAX + 3, -QWIDGETSIZE_MAX + 3));
+        Touch::release(button);
+        EXPECT_EQ(button->m_animation.endValue().toRect().topLeft(),
+                  QPoint(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX));
+        button->m_animation.setCurrentTime(75); // on its way, too
+    };
+    button->setOrgPos(most, least);
+    expectEnds();
+    button->setLayout(element("<ok><image up='up.png' down='down.png'/><position x='" +
+                              std::to_string(most) + "' y='" + std::to_string(least) + "' width='" +
+                              std::to_string(most) + "' height='" + std::to_string(most) +
+                              "'/></ok>"));
+    expectEnds();
 }
 
 TEST_F(ZELImageButtonAnimationTest, otherAnimationsAndTitlelessButtonsStandStill)

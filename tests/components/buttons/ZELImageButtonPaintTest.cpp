@@ -2,6 +2,8 @@
 
 #include "components/buttons/ButtonTest.h"
 
+#include <utility>
+
 using namespace PANFx;
 using namespace PANFx::Testing;
 using Components::ZELImageButton;
@@ -135,8 +137,10 @@ TEST_F(ZELImageButtonPaintTest, withoutATextRectangleAnElidedTitleVanishesButFor
 {
     writePicture("clear.png", 8, 8, Qt::transparent);
     const std::string image = "<image up='clear.png' down='clear.png'/>";
-    EXPECT_EQ(Pixels::inkInside(elidedTitle("AB", image), QRect(0, 0, 200, 40)), 0);
-    EXPECT_GT(Pixels::inkInside(elidedTitle("A", image), QRect(0, 0, 200, 40)), 0);
+    for (const bool dim : {false, true}) {
+        EXPECT_EQ(coloursIn(elidedTitle("HH", image, dim)), "") << dim;
+        EXPECT_EQ(coloursIn(elidedTitle("H", image, dim)), dim ? "dimmed shadow" : "normal");
+    }
 }
 
 TEST_F(ZELImageButtonPaintTest, elisionCannotBeSwitchedOff)
@@ -174,19 +178,24 @@ TEST_F(ZELImageButtonPaintTest, touchesAndDimModeRepaintAndSettersDoNot)
 
 TEST_F(ZELImageButtonPaintTest, rectanglesBeyondTheButtonAreCutAtItsEdges)
 {
-    const char* const numbers[] = {"-30", "-2147483648", "2147483647", "100000", "1"};
-    for (const std::string at : numbers) {
-        for (const std::string length : numbers) {
-            const std::string rest = "y='2' height='30' x='" + at + "' width='" + length + "'/>";
+    constexpr int most = QWIDGETSIZE_MAX; // numbers beyond it are held there
+    const std::pair<const char*, int> numbers[] = {
+        {"-30", -30}, {"-2147483648", -most}, {"2147483647", most}, {"100000", 100000}, {"1", 1}};
+    for (const auto& [at, x] : numbers) {
+        for (const auto& [length, width] : numbers) {
+            const std::string rest =
+                "y='2' height='30' x='" + std::string(at) + "' width='" + length + "'/>";
             auto* const button =
                 make<Button>(ok(styled, "<imagePos " + rest + "<textPos align='left' " + rest));
+            const QRect asked(x, 2, width, 30);
+            EXPECT_EQ(button->m_imageRect, asked) << rest;
+            EXPECT_EQ(button->m_textRect, asked) << rest;
             QImage expected = Pixels::canvas(size);
             QPainter painter(&expected);
             painter.setRenderHint(QPainter::SmoothPixmapTransform);
-            painter.drawPixmap(button->m_imageRect, *picture("up.png"), QRect());
+            painter.drawPixmap(asked, *picture("up.png"), QRect());
             painter.end();
-            drawText(expected, QStringLiteral("HHHH"), button->m_textRect, toTheLeft, "normal",
-                     Qt::black);
+            drawText(expected, QStringLiteral("HHHH"), asked, toTheLeft, "normal", Qt::black);
             EXPECT_TRUE(Pixels::same(Pixels::grab(button), expected)) << rest;
         }
     }

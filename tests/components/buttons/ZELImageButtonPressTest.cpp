@@ -200,18 +200,25 @@ TEST_F(ZELImageButtonPressTest, aBlockedWindowDropsThePress)
     EXPECT_EQ(panel().takeTypes(), Types{});
 }
 
-TEST_F(ZELImageButtonPressTest, hiddenInDimModeItShowsTheDimPicture)
+TEST_F(ZELImageButtonPressTest, hiddenOrBlockedInDimModeItShowsTheDimPicture)
 {
     auto* const button = make<Button>(ok());
-    Touch::press(button);
-    button->setDimMode(true);
-    button->m_pCurImage = button->m_pDownImage;
-    button->hideWindow();
-    EXPECT_EQ(button->m_pCurImage, picture("dim.png"));
-    button->m_strDimImage.clear();
-    button->showWindow();
-    button->hideWindow();
-    EXPECT_EQ(button->m_pCurImage, button->m_pUpImage) << "where one is named";
+    for (const QEvent::Type type : {QEvent::Hide, QEvent::WindowBlocked}) {
+        button->setDimMode(false);
+        Touch::press(button);
+        button->setDimMode(true);
+        const auto shownAfterwards = [&](const std::string& dimPicture) {
+            button->m_strDimImage = dimPicture;
+            button->m_pCurImage = button->m_pDownImage;
+            QEvent event(type);
+            QCoreApplication::sendEvent(button, &event);
+            return button->m_pCurImage;
+        };
+        EXPECT_EQ(shownAfterwards("dim.png"), picture("dim.png")) << type;
+        EXPECT_EQ(shownAfterwards("nosuch.png"), nullptr) << type << " as it is";
+        EXPECT_EQ(shownAfterwards(""), button->m_pUpImage) << type << " where none is named";
+        EXPECT_FALSE(button->m_bPressed) << type;
+    }
 }
 
 TEST_F(ZELImageButtonPressTest, disabledWhileHeldTheReleaseGoesToThePage)

@@ -101,6 +101,25 @@ TEST_F(ZELRadioGroupClickTest, whatItGetsGoesOnToTheWidget)
         EXPECT_TRUE(QCoreApplication::sendEvent(group, &event)) << type;
     }
     EXPECT_EQ(panel().takeTypes(), Types{EVENT_MOUSE_UP});
+    expectWidgetsAnswers(group);
+}
+
+TEST_F(ZELRadioGroupClickTest, aTabButtonInsideBecomesTheSelectedOneAndNoButtonIs)
+{
+    Group* const group = abc("<tabbutton>" + button("tab", 180) + "</tabbutton>");
+    group->setButtonSelect("b");
+    ZELComponent* const tab = group->getSubComponent("tab");
+    Touch::press(tab->getQWidget());
+    EXPECT_EQ(panel().takeTypes(), Types{}) << "its own event stops at the group";
+    EXPECT_EQ(group->m_strSelected + checked(group), "bb");
+    Touch::release(tab->getQWidget());
+    const RecordedEvent click = panel().takeOne();
+    EXPECT_EQ(click.type, EVENT_MOUSE_UP);
+    EXPECT_EQ(click.sender, tab->getQWidget());
+    EXPECT_EQ(click.id, "");
+    EXPECT_EQ(group->m_strSelected, "tab");
+    EXPECT_EQ(checked(group), "");
+    EXPECT_EQ(group->getSelectedButton(), nullptr);
 }
 
 TEST_F(ZELRadioGroupClickTest, aLabelInsideBecomesTheSelectedOneAndNoButtonIs)

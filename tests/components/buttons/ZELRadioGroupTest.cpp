@@ -1,6 +1,9 @@
 #include "components/buttons/ZELRadioGroup.h"
 
 #include "components/buttons/RadioGroupTest.h"
+#include "components/support/InOnePlace.h"
+
+#include <memory>
 
 using namespace PANFx;
 using namespace PANFx::Testing;
@@ -103,15 +106,16 @@ TEST_F(ZELRadioGroupTest, onlyTheExactTypeTakesPart)
 {
     Group* const group =
         abc("<button>" + button("push", 180) + "</button><checkbutton>" + button("check", 240) +
-            "</checkbutton><label><text title='t' style='normal'/></label>");
-    for (const char* derived : {"ZELHeaderButton", "ZELTabButton"})
-        group->m_dqSubComponents.push_back(
-            new ZELRadioButton(group, derived, derived, element(button("derived", 300))));
-    group->addButton();
+            "</checkbutton><tabbutton>" + button("tab", 300) + "</tabbutton><headerbutton>" +
+            button("head", 360) + "</headerbutton><label><text title='t' style='normal'/></label>");
     EXPECT_EQ(group->getComponentCount(), 8);
     EXPECT_EQ(group->m_buttons.getCount(), 3);
-    for (const char* id : {"push", "check", "text", "ZELHeaderButton", "ZELTabButton"})
+    for (const char* id : {"push", "check", "tab", "head", "text"}) {
+        EXPECT_NE(group->getSubComponent(id), nullptr) << id;
         EXPECT_EQ(group->m_buttons.getValue(id), nullptr) << id;
+    }
+    for (const char* id : {"tab", "head"})
+        EXPECT_NE(dynamic_cast<ZELRadioButton*>(group->getSubComponent(id)), nullptr) << id;
 }
 
 TEST_F(ZELRadioGroupTest, takesItsButtonsAnew)
@@ -261,6 +265,42 @@ TEST_F(ZELRadioGroupTest, aDeletedButtonIsNotTouchedAgain)
     group->addButton();
     EXPECT_EQ(group->m_buttons.getCount(), 2);
     EXPECT_EQ(group->getSelectedButton(), c);
+}
+
+TEST_F(ZELRadioGroupTest, whatLiesWhereADeletedButtonWasIsNotTouched)
+{
+    for (const bool sameAddress : {true, false}) {
+        Group* const group = abc();
+        group->m_dqSubComponents.push_back(new InOnePlace<ZELRadioButton>(
+            group, "d", "ZELRadioButton", element(button("d", 180))));
+        group->addButton();
+        group->setButtonSelect("d");
+        delete group->button("d");
+        const auto other = [&]() -> std::unique_ptr<ZELRadioButton> {
+            if (sameAddress)
+                return std::make_unique<InOnePlace<ZELRadioButton>>(&panel(), "d", "ZELRadioButton",
+                                                                    element(button("d", 0)));
+            return std::make_unique<ZELRadioButton>(&panel(), "d", "ZELRadioButton",
+                                                    element(button("d", 0)));
+        }();
+        ASSERT_EQ(group->ZELComponent::getSubComponent(3) == other.get(), sameAddress);
+        group->showSubComponent();
+        EXPECT_TRUE(other->isHidden());
+        other->showWindow();
+        group->hideSubComponent();
+        EXPECT_TRUE(other->isVisible());
+        EXPECT_EQ(group->button("d"), nullptr);
+        EXPECT_EQ(group->findByWidget(other.get()), nullptr);
+        EXPECT_EQ(group->getSelectedButton(), nullptr);
+        other->setCheck(1);
+        group->setSelectClear();
+        group->setDimMode(true, true);
+        group->addButton();
+        EXPECT_EQ(group->m_buttons.getCount(), 3);
+        group->setDimMode(false, true);
+        EXPECT_TRUE(other->m_bChecked);
+        EXPECT_TRUE(other->isEnabled());
+    }
 }
 
 TEST_F(ZELRadioGroupTest, aDeletedButtonsLastClickIsToldAndSelectsNothing)

@@ -78,7 +78,7 @@ std::vector<TimeWalk::Operation> timeOperations(const std::string& keys)
     all.push_back(TimeWalk::silent(
         "clear", [](TimeRules& rules) { rules.clear(); }, [](WalkedTime& edit) { edit.clear(); }));
     all.push_back(changedMark());
-    for (const std::string text : {"24:00", "12:3", "13:05"})
+    for (const std::string text : {"24:00", "12:3", "13:05", "10:-5"})
         all.push_back(texts(text));
     return all;
 }
@@ -112,7 +112,8 @@ TEST_F(TimeWalkTest, everyCharacterInEveryStateFollowsTheRules)
         const std::string time = edit->text();
         if (time.empty())
             continue;
-        times.insert(time);
+        if (time.find('-') == std::string::npos) // a sign comes from a text, not from keys
+            times.insert(time);
         EXPECT_LT(time, "24:00");
         edit->clear();
         edit->setText(time);

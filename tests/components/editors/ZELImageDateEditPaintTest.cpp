@@ -85,6 +85,22 @@ TEST_F(ZELImageDateEditPaintTest, withoutALayoutBothClassesSaySo)
     EXPECT_EQ(field->geometry(), QRect(0, 0, 100, 30));
 }
 
+TEST_F(ZELImageDateEditPaintTest, aNullLayoutLaterChangesNothingAndOnlyItsOwnClassSaysSo)
+{
+    auto* const field = edit("style='pressed' dimstyle='dimmed'",
+                             "<padding x='20' y='3' width='90' height='9'/><datewidth year='70'/>");
+    field->setAlign(toTheRight);
+    log().expectError("[setLayout] ok pLayout == NULL", 1, "ZELImageDateEdit");
+    field->setLayout(nullptr);
+    EXPECT_EQ(field->m_pFont, style("pressed"));
+    EXPECT_EQ(field->m_pDimFont, style("dimmed"));
+    EXPECT_EQ(field->m_nAlign, toTheRight);
+    EXPECT_EQ(field->geometry(), place);
+    EXPECT_EQ(field->m_paddingRect, QRect(20, 3, 90, 9));
+    EXPECT_EQ(field->widths(), (std::vector<int>{70, 40, 40}));
+    EXPECT_EQ(shownState(field), up);
+}
+
 TEST_F(ZELImageDateEditPaintTest, readsTheLayoutOfAnEdit)
 {
     auto* const field =

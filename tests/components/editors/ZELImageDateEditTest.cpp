@@ -176,12 +176,11 @@ TEST_F(ZELImageDateEditTest, yearFirstAYearBeyond2999StandsUntilTheDayIsComplete
 
 TEST_F(ZELImageDateEditTest, yearFirstADayClosedByOneDigitLeavesTheLastDayAlone)
 {
-    // nothing to correct by a day up to nine: the year is all that changes
-    EXPECT_EQ(typed(YMD, "2023 02 9"), "2023/02/09");
     OpenDate* const edit = date(YMD);
-    edit->setText("20230228");
-    type(*edit, "<< 3 0");
-    EXPECT_EQ(edit->text(), "2023/02/28");
+    type(*edit, "2023");
+    edit->m_strMonth = QStringLiteral("13"); // a month without days
+    type(*edit, "9");
+    EXPECT_EQ(edit->text(), "2023/13/09");
 }
 
 TEST_F(ZELImageDateEditTest, aDigitBehindAMonthOfOneDigitExtendsTheMonth)
@@ -392,6 +391,18 @@ TEST_F(ZELImageDateEditTest, setTextCutsATextWithSeparatorsAtTheSamePlaces)
     edit->setDateOrder(YMD);
     edit->setText("2024/12/25"); // "2024", "/1", "2/"
     EXPECT_EQ(edit->text(), "2024//02");
+}
+
+TEST_F(ZELImageDateEditTest, aSignInAPartMakesItTheLargest)
+{
+    OpenDate* const edit = date(YMD);
+    edit->setText("2024-1-5");
+    EXPECT_EQ(edit->text(), "2024/12/31");
+    edit->setText("-1230105");
+    EXPECT_EQ(edit->text(), "2999/01/05");
+    edit->setDateOrder(MDY);
+    edit->setText("-1-52024");
+    EXPECT_EQ(edit->text(), "12/31/2024");
 }
 
 TEST_F(ZELImageDateEditTest, setTextWithLessThanEightCharactersChangesNothing)

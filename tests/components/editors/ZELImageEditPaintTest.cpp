@@ -63,6 +63,7 @@ TEST_F(ZELImageEditPaintTest, scalesTheWholeMiddlePicture)
 
 TEST_F(ZELImageEditPaintTest, theEndsLieOverTheMiddleOfAFieldThatIsTooNarrow)
 {
+    writePicture(piece(up, "mid"), 4, 44, Qt::yellow); // shows below the end piece
     auto* const field = edit();
     field->resize(20, 44); // 4 less than both ends: the middle keeps its own width then
     QImage expected = Pixels::canvas(QSize(20, 44));
@@ -71,6 +72,7 @@ TEST_F(ZELImageEditPaintTest, theEndsLieOverTheMiddleOfAFieldThatIsTooNarrow)
     painter.drawPixmap(0, 0, *picture(piece(up, "start")));
     painter.drawPixmap(6, 0, *picture(piece(up, "end")));
     painter.end();
+    ASSERT_EQ(Pixels::count(expected, Qt::yellow), 4 * 6);
     EXPECT_TRUE(shows(field, expected));
 }
 

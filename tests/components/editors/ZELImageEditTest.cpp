@@ -48,6 +48,29 @@ protected:
         return {edit->m_pCurStart, edit->m_pCurMid, edit->m_pCurEnd};
     }
 
+    static std::vector<QPixmap*> ups(const Edit* edit)
+    {
+        return {edit->m_pUpStart, edit->m_pUpMid, edit->m_pUpEnd};
+    }
+
+    static std::vector<QPixmap*> downs(const Edit* edit)
+    {
+        return {edit->m_pDownStart, edit->m_pDownMid, edit->m_pDownEnd};
+    }
+
+    static std::vector<QPixmap*> dims(const Edit* edit)
+    {
+        return {edit->m_pDimStart, edit->m_pDimMid, edit->m_pDimEnd};
+    }
+
+    // an element with all frames, but one name of one frame is missing
+    static std::string fieldWithout(State state, const std::string& absent)
+    {
+        std::string xml = ZELImageEditTest::field();
+        const std::string named = " " + absent + "='" + piece(state, absent) + "'";
+        return xml.erase(xml.find(named), named.size());
+    }
+
     static std::vector<QPixmap*> pieces(State state)
     {
         return {picture(piece(state, "start")), picture(piece(state, "mid")),
@@ -155,13 +178,20 @@ TEST_F(ZELImageEditTest, readsStylesAlignmentPicturesAndPlace)
     EXPECT_EQ(field->m_pDimFont, style("dimmed"));
     EXPECT_EQ(field->m_nAlign, toTheRight);
     EXPECT_EQ(field->geometry(), place);
-    const std::vector<QPixmap*> ups{field->m_pUpStart, field->m_pUpMid, field->m_pUpEnd};
-    const std::vector<QPixmap*> downs{field->m_pDownStart, field->m_pDownMid, field->m_pDownEnd};
-    const std::vector<QPixmap*> dims{field->m_pDimStart, field->m_pDimMid, field->m_pDimEnd};
-    EXPECT_EQ(ups, pieces(up));
-    EXPECT_EQ(downs, pieces(down));
-    EXPECT_EQ(dims, pieces(dim));
+    EXPECT_EQ(ups(field), pieces(up));
+    EXPECT_EQ(downs(field), pieces(down));
+    EXPECT_EQ(dims(field), pieces(dim));
     EXPECT_EQ(current(field), pieces(up));
+}
+
+TEST_F(ZELImageEditTest, aSecondLayoutWithoutStylesTakesThemAway)
+{
+    auto* const field =
+        edit(ZELImageEditTest::field("style='normal' dimstyle='dimmed' align='right'"));
+    field->setLayout(element(ZELImageEditTest::field("")));
+    EXPECT_EQ(field->m_pFont, nullptr);
+    EXPECT_EQ(field->m_pDimFont, nullptr);
+    EXPECT_EQ(field->m_nAlign, toTheLeft);
 }
 
 TEST_F(ZELImageEditTest, anEmptyElementGivesTheDefaults)
@@ -178,18 +208,23 @@ TEST_F(ZELImageEditTest, anEmptyElementGivesTheDefaults)
 
 TEST_F(ZELImageEditTest, leavesOutASetOfPicturesWithOneMissing)
 {
-    for (const char* const absent : {"start", "mid", "end"}) {
-        std::string frame = frameOf(up, "imageup");
-        frame.replace(frame.find(std::string(" ") + absent), 1, " no");
-        auto* const field = edit("<ok style='normal'>" + frame + frameOf(down, "imagedown") +
-                                 "<position width='200' height='44'/></ok>");
-        field->setText("text");
-        EXPECT_EQ(field->m_pUpStart, nullptr);
-        EXPECT_EQ(field->m_pUpMid, nullptr);
-        EXPECT_EQ(field->m_pUpEnd, nullptr);
-        EXPECT_EQ(field->m_pDownMid, picture(piece(down, "mid")));
-        EXPECT_TRUE(Pixels::inkBox(Pixels::grab(field)).isNull()) << absent;
+    const std::vector<QPixmap*> none(3, nullptr);
+    for (const State state : {up, down, dim}) {
+        for (const char* const absent : {"start", "mid", "end"}) {
+            SCOPED_TRACE(piece(state, absent));
+            auto* const field = edit(fieldWithout(state, absent));
+            EXPECT_EQ(ups(field), state == up ? none : pieces(up));
+            EXPECT_EQ(downs(field), state == down ? none : pieces(down));
+            EXPECT_EQ(dims(field), state == dim ? none : pieces(dim));
+        }
     }
+}
+
+TEST_F(ZELImageEditTest, withoutAWholeFrameItShowsNothing)
+{
+    auto* const field = edit(fieldWithout(up, "mid"));
+    field->setText("text");
+    EXPECT_TRUE(Pixels::inkBox(Pixels::grab(field)).isNull());
 }
 
 TEST_F(ZELImageEditTest, paddingDefaultsToEightPixelsAtTheSides)
@@ -212,12 +247,15 @@ TEST_F(ZELImageEditTest, eachNumberOfThePaddingStandsAlone)
 
 TEST_F(ZELImageEditTest, setUpImageShowsThePiecesOnlyWhenAsked)
 {
-    auto* const field = edit("<ok><position width='200' height='44'/></ok>");
-    EXPECT_TRUE(
-        field->setUpImage(piece(dim, "start"), piece(dim, "mid"), piece(dim, "end"), false));
-    EXPECT_EQ(field->m_pUpMid, picture(piece(dim, "mid")));
+    auto* const field = edit("<ok style='normal'><position width='200' height='44'/></ok>");
+    const auto set = [field](State state, bool show) {
+        return field->setUpImage(piece(state, "start"), piece(state, "mid"), piece(state, "end"),
+                                 show);
+    };
+    EXPECT_EQ(paints(field, [&] { EXPECT_TRUE(set(dim, false)); }), 0);
+    EXPECT_EQ(ups(field), pieces(dim));
     EXPECT_EQ(current(field), std::vector<QPixmap*>(3, nullptr));
-    EXPECT_TRUE(field->setUpImage(piece(up, "start"), piece(up, "mid"), piece(up, "end"), true));
+    EXPECT_EQ(paints(field, [&] { EXPECT_TRUE(set(up, true)); }), 1);
     EXPECT_EQ(current(field), pieces(up));
 }
 

@@ -160,7 +160,7 @@ TEST_F(ZELImageNumberEditPaintTest, aDimStyleAloneServesTheNumberButNotThePlaceh
 
 // ---- when the focus goes
 
-TEST_F(ZELImageNumberEditPaintTest, losingTheFocusFormatsBeforeItIsReported)
+TEST_F(ZELImageNumberEditPaintTest, losingTheFocusFormatsAndIsReported)
 {
     auto* const field = edit();
     field->setDecimalplace(2);

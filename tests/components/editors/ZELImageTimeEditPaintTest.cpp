@@ -30,6 +30,13 @@ protected:
         return make<Edit>(field(attributes, children), "ZELImageTimeEdit");
     }
 
+    // two styles of 9 and 14 points
+    void writeSmallAndNormal()
+    {
+        writeStyle("<style><Font><small size='9' family='DejaVu Sans Mono' color='000000'/>"
+                   "<normal size='14' family='DejaVu Sans Mono' color='000000'/></Font></style>");
+    }
+
     static QImage columns(const char* hour, const char* minute, const char* mark,
                           int align = centred, int w = width)
     {
@@ -66,12 +73,21 @@ TEST_F(ZELImageTimeEditPaintTest, startsEmptyInTheMorning)
 
 TEST_F(ZELImageTimeEditPaintTest, itsColumnsAreTwiceThePointsOfItsStyle)
 {
-    writeStyle("<style><Font><small size='9' family='DejaVu Sans Mono' color='000000'/>"
-               "<normal size='14' family='DejaVu Sans Mono' color='000000'/></Font></style>");
+    writeSmallAndNormal();
     EXPECT_EQ(edit()->m_nColumnWidth, 28);
     auto* const field = edit("style='small'");
     EXPECT_EQ(field->m_nColumnWidth, 18);
     field->setFont(style("normal"));
+    EXPECT_EQ(field->m_nColumnWidth, 18);
+}
+
+TEST_F(ZELImageTimeEditPaintTest, aSecondLayoutBringsStyleAndAlignmentButLeavesTheColumns)
+{
+    writeSmallAndNormal();
+    auto* const field = edit("style='small'");
+    field->setLayout(element("<ok style='normal' align='right'/>"));
+    EXPECT_EQ(field->m_pFont, style("normal"));
+    EXPECT_EQ(field->m_nAlign, toTheRight);
     EXPECT_EQ(field->m_nColumnWidth, 18);
 }
 

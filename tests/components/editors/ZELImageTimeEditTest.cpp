@@ -174,6 +174,19 @@ TEST_F(ZELImageTimeEditTest, setTextReadsTwentyFourHours)
     EXPECT_EQ(edit->text(), "12:00");
 }
 
+TEST_F(ZELImageTimeEditTest, theSignOfAMinuteIsACharacterOfItsOwn)
+{
+    OpenTime* const edit = time();
+    edit->setText("10:-5");
+    EXPECT_EQ(edit->shown(), "10:-5 AM");
+    EXPECT_EQ(edit->text(), "10:-5");
+    type(*edit, "<");
+    EXPECT_EQ(edit->text(), "") << "incomplete";
+    type(*edit, "0");
+    EXPECT_EQ(edit->shown(), "10:-0 AM");
+    EXPECT_EQ(edit->text(), "10:00") << "handed out as a number of two digits";
+}
+
 TEST_F(ZELImageTimeEditTest, setTextWithLessThanFiveCharactersChangesNothing)
 {
     OpenTime* const edit = time();

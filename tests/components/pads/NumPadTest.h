@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -49,6 +50,12 @@ public:
     {
         return static_cast<Components::ZELImageButton*>(getSubComponent(id));
     }
+
+    /** Called with the number of each event that Qt gets behind the pad. */
+    std::function<void(int)> wentOn = [](int) {};
+
+protected:
+    void customEvent(QEvent* event) override { wentOn(event->type()); }
 };
 
 /** A time edit that notes how it was called; a key "ampm" reaches it too. */

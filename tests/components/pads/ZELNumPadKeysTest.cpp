@@ -63,6 +63,39 @@ protected:
     SpyEdit* m_spy = nullptr;
 };
 
+// an edit that reports what the pad does to it, and notes whether the pad is there as it goes
+class TellingEdit : public SpyEdit
+{
+public:
+    TellingEdit(QWidget* parent, TAMFx::Common::Xml::Node* layout, const OpenPad* pad)
+        : SpyEdit(parent, "edit", "ZELImageTimeEdit", layout)
+        , m_pad(pad)
+    {
+    }
+
+    void setText(const char*) override { tell(); }
+    void addText(const char*) override { tell(); }
+    void addText(std::string) override { tell(); }
+    void backspace() override { tell(); }
+
+    bool padWasHidden = false;
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        padWasHidden = m_pad->isHidden();
+        SpyEdit::focusOutEvent(event);
+    }
+
+private:
+    void tell()
+    {
+        QCoreApplication::postEvent(parent(), new ZELEvent(EVENT_RANGE_CHANGED, this, m_strID));
+    }
+
+    const OpenPad* m_pad;
+};
+
 constexpr QEvent::Type reported[] = {
     EVENT_WINDOW_ACTIVATE, EVENT_MOUSE_DOWN, EVENT_MOUSE_UP,        EVENT_TIMER,
     EVENT_RANGE_CHANGED,   EVENT_FOCUS_IN,   EVENT_FOCUS_OUT,       EVENT_TAB_DOWN,
@@ -95,6 +128,38 @@ TEST_F(ZELNumPadKeysTest, theCloseKeyClosesByItsClickOnly)
         EXPECT_EQ(panel().takeTypes(), click ? Types{EVENT_NUMPAD_CLOSE} : Types{}) << type;
     }
     EXPECT_EQ(m_spy->take(), Calls{});
+}
+
+TEST_F(ZELNumPadKeysTest, aReportThatWasHandledGoesOnToQtToo)
+{
+    Types wentOn;
+    Calls before;
+    m_pad->wentOn = [&](int type) {
+        wentOn.push_back(type);
+        before = m_spy->take();
+    };
+    for (const QEvent::Type type : {EVENT_MOUSE_UP, EVENT_LONG_PRESS, EVENT_LONG_PRESS_HELD}) {
+        for (const std::string& id : allKeys()) {
+            send(m_pad, type, m_pad->key(id), id);
+            EXPECT_EQ(std::exchange(wentOn, {}), Types{type}) << type << id;
+            EXPECT_EQ(before, expected(type, id).calls) << type << id << ": the key works first";
+        }
+    }
+}
+
+TEST_F(ZELNumPadKeysTest, theEditIsServedBeforeTheKeyIsReported)
+{
+    auto* const telling = new TellingEdit(&panel(), element("<edit style='normal'/>"), m_pad);
+    m_pad->setEdit(telling);
+    const std::vector<std::pair<QEvent::Type, const char*>> all = {
+        {EVENT_MOUSE_UP, "num5"},        {EVENT_MOUSE_UP, "num00"},
+        {EVENT_MOUSE_UP, "dot"},         {EVENT_MOUSE_UP, "comma"},
+        {EVENT_MOUSE_UP, "empty"},       {EVENT_MOUSE_UP, "backspace"},
+        {EVENT_LONG_PRESS, "backspace"}, {EVENT_LONG_PRESS_HELD, "backspace"}};
+    for (const auto& [type, id] : all) {
+        send(m_pad, type, m_pad->key(id), id);
+        EXPECT_EQ(panel().takeTypes(), (Types{EVENT_RANGE_CHANGED, EVENT_MOUSE_UP})) << type << id;
+    }
 }
 
 TEST_F(ZELNumPadKeysTest, aStrangerAndNobodyDoNothing)
@@ -306,6 +371,19 @@ TEST_F(ZELNumPadKeysTest, closingTakesTheFocusFromItsEditAndKeepsIt)
     EXPECT_EQ(events[1].classType, "ZELEvent");
     EXPECT_EQ(events[1].sender, static_cast<QWidget*>(m_pad));
     EXPECT_EQ(events[1].id, "pad");
+}
+
+TEST_F(ZELNumPadKeysTest, closingHidesThePadBeforeTheFocusGoes)
+{
+    auto* const telling = new TellingEdit(&panel(), element("<edit style='normal'/>"), m_pad);
+    telling->showWindow();
+    telling->setFocus();
+    ASSERT_TRUE(telling->hasFocus());
+    m_pad->setEdit(telling);
+    panel().take();
+    m_pad->onClosePress(nullptr);
+    EXPECT_TRUE(telling->padWasHidden);
+    EXPECT_EQ(panel().takeTypes(), (Types{EVENT_FOCUS_OUT, EVENT_NUMPAD_CLOSE}));
 }
 
 TEST_F(ZELNumPadKeysTest, closingLeavesTheFocusOfOthers)

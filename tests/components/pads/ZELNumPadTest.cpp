@@ -374,6 +374,18 @@ TEST_F(ZELNumPadTest, aBackgroundBelowOnePixelIsAsLargeAsThePad)
               QRect(200, 150, 40, 10));
 }
 
+TEST_F(ZELNumPadTest, aChangeOfLanguageTakesTheBackgroundAwayUntilItIsLookedUpAnew)
+{
+    writePicture("base.png", 50, 20, Qt::green, "kr");
+    auto* const made = popup("<backimage file='base.png' x='30' y='20' width='100' height='50'/>");
+    auto* const resources = PANFx::Resource::ZELResourceMgr::getInstance();
+    resources->changeLocale("kr");
+    ASSERT_TRUE(made->m_pBasePixmap->isNull());
+    EXPECT_TRUE(covered(made).isNull());
+    resources->getImage("base.png");
+    EXPECT_EQ(Pixels::count(Pixels::grab(made), Qt::green), 100 * 50);
+}
+
 TEST_F(ZELNumPadTest, theBackgroundIsScaledWholeAndSmoothly)
 {
     QImage halves(2, 1, QImage::Format_RGB32);
@@ -416,6 +428,58 @@ TEST_F(ZELNumPadTest, theTitleOfTheOwnKeyIsWhatItTypes)
     made->setUserDefineButtonTitle(nullptr);
     EXPECT_EQ(made->m_strUserDefine, "");
     EXPECT_EQ(made->m_pEmptyBtn->getTitle(), "");
+}
+
+TEST_F(ZELNumPadTest, aNewTitleDoesNotRepaint)
+{
+    auto* const made = make();
+    made->setType(4);
+    PaintCounter counter(made);
+    PaintCounter keyCounter(made->m_pEmptyBtn);
+    counter.reset();
+    keyCounter.reset();
+    made->setUserDefineButtonTitle(std::string("kg"));
+    made->setUserDefineButtonTitle(nullptr);
+    EventLoop::deliver();
+    EXPECT_EQ(counter.count(), 0);
+    EXPECT_EQ(keyCounter.count(), 0);
+}
+
+TEST_F(ZELNumPadTest, withoutTheOwnKeyItsTitleIsEmptiedAllTheSame)
+{
+    auto* const made = make(pad(keysWithout("empty")));
+    made->setUserDefineButtonTitle(std::string("kg"));
+    EXPECT_EQ(made->m_strUserDefine, "kg");
+    made->setUserDefineButtonTitle(nullptr);
+    EXPECT_EQ(made->m_strUserDefine, "");
+}
+
+// ---- a key that the application deletes
+
+TEST_F(ZELNumPadTest, aKeyThatIsGoneDoesNoHarm)
+{
+    for (const char* const id : {"num0", "num00", "dot", "comma", "ampm", "empty", "close"}) {
+        auto* const made = make();
+        delete made->key(id);
+        ASSERT_EQ(made->key(id), nullptr) << id;
+        made->setPopupMode(true);
+        made->setUserDefineButtonTitle(std::string("kg"));
+        EXPECT_EQ(made->m_strUserDefine, "kg") << id;
+        for (const auto& [type, keys] : std::vector<std::pair<int, Ids>>{{1, {"num0", "dot"}},
+                                                                         {2, {"num0", "comma"}},
+                                                                         {3, {"num0", "ampm"}},
+                                                                         {4, {"num0", "empty"}},
+                                                                         {0, {"num00"}}}) {
+            Ids left = keys;
+            left.emplace_back("close");
+            left.erase(std::remove(left.begin(), left.end(), id), left.end());
+            made->setType(type);
+            EXPECT_EQ(shown(made), left) << type << " without " << id;
+        }
+        made->setPopupMode(false);
+        made->setUserDefineButtonTitle(nullptr);
+        delete made;
+    }
 }
 
 TEST_F(ZELNumPadTest, aLiteralAsTheTitleEndsTheProgram)

@@ -20,6 +20,17 @@ using PANFx::Components::ZELLineEdit;
 
 namespace {
 
+// the text areas of the fields, open to a derived class as to an application's
+struct OpenEdit : ZELImageEdit
+{
+    static constexpr auto textArea = &OpenEdit::m_paddingRect;
+};
+
+struct OpenLine : ZELLineEdit
+{
+    static constexpr auto textArea = &OpenLine::m_rcText;
+};
+
 class EditorFrameTest : public PanelTest, public ::testing::WithParamInterface<const char*>
 {
 protected:
@@ -47,6 +58,13 @@ protected:
     QWidget* placed(const std::string& children, const std::string& attributes = "style='normal'")
     {
         return build(children + "<position x='5' y='6' width='160' height='32'/>", attributes);
+    }
+
+    static QRect textArea(QWidget* widget)
+    {
+        if (auto* const edit = dynamic_cast<ZELImageEdit*>(widget))
+            return edit->*OpenEdit::textArea;
+        return dynamic_cast<ZELLineEdit&>(*widget).*OpenLine::textArea;
     }
 
     static void setPlaceholder(QWidget* widget, const std::string& text)
@@ -163,8 +181,10 @@ TEST_P(EditorFrameTest, numbersOfAnySizeDoNoHarm)
     QWidget* const field =
         placed(frame("imageup") + "<padding x='2147483647' y='-2147483648' width='-99999999999' "
                                   "height='99999999999'/>");
+    EXPECT_EQ(textArea(field),
+              QRect(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     setPlaceholder(field, "HHHH");
-    EXPECT_GT(cyan(field), 0);
+    EXPECT_GT(cyan(field), 0) << "and it is painted all the same";
 }
 
 TEST_P(PlaceholderTest, isNinetyLighterInEachColour)

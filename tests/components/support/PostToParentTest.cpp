@@ -1,4 +1,5 @@
 #include "components/ZELComponent.h"
+#include "components/buttons/ZELImageButton.h"
 #include "events/EventNumbers.h"
 #include "resource/SoundBase.h"
 #include "resource/SoundFactory.h"
@@ -14,6 +15,7 @@
 
 using namespace PANFx::Testing;
 using PANFx::Components::ZELComponent;
+using PANFx::Components::ZELImageButton;
 
 namespace {
 
@@ -56,7 +58,7 @@ public:
     int count = 0;
 };
 
-// the components that report a touch as a click and do nothing else with it
+// the components that report a touch as a click
 class PostToParentTest : public PanelTest, public ::testing::WithParamInterface<const char*>
 {
 protected:
@@ -83,9 +85,20 @@ protected:
     // one element that every class here understands
     static constexpr const char* xml = "<ok title='x' style='normal' file='a.png' x='20' y='30' "
                                        "width='50' height='40'>"
+                                       "<image up='a.png' down='a.png' dim='a.png'/>"
                                        "<position x='20' y='30' width='50' height='40'/></ok>";
 
     ZELComponent* m_component = nullptr;
+};
+
+// those of them that do nothing else with it
+class SilentPostToParentTest : public PostToParentTest
+{
+};
+
+// and those that can be dimmed
+class ButtonPostToParentTest : public PostToParentTest
+{
 };
 
 } // namespace
@@ -131,7 +144,7 @@ TEST_P(PostToParentTest, aReleaseAloneClicks)
     expectOneClick();
 }
 
-TEST_P(PostToParentTest, aTouchMakesNoSound)
+TEST_P(SilentPostToParentTest, aTouchMakesNoSound)
 {
     auto* const sound = new CountedSound;
     auto* const sounds = PANFx::Resource::SoundFactory::getInstance();
@@ -228,6 +241,30 @@ TEST_P(PostToParentTest, theClickReachesThePageThatTheComponentLiesOn)
     EXPECT_EQ(events[0].id, "ok");
 }
 
-INSTANTIATE_TEST_SUITE_P(Components, PostToParentTest,
-                         ::testing::Values("label", "imagebox", "pieimagebox", "chartimagebox"),
-                         [](const auto& info) { return std::string(info.param); });
+TEST_P(ButtonPostToParentTest, dimmedAndEnabledAgainItSwallowsTouches)
+{
+    const Watch watch(&panel());
+    static_cast<ZELImageButton*>(m_component)->setDimMode(true);
+    widget()->setEnabled(true); // as an application may do: dim mode itself disables
+    Touch::tapWindow(widget());
+    EXPECT_TRUE(panel().take().empty());
+    EXPECT_EQ(watch.count(QEvent::MouseButtonPress), 0);
+    EXPECT_EQ(watch.count(QEvent::MouseButtonRelease), 0);
+}
+
+namespace {
+
+const auto silent = ::testing::Values("label", "imagebox", "pieimagebox", "chartimagebox");
+const auto buttons = ::testing::Values("button", "checkbutton", "iconcheckbutton", "radiobutton");
+
+std::string keyword(const ::testing::TestParamInfo<const char*>& info)
+{
+    return info.param;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Components, PostToParentTest, silent, keyword);
+INSTANTIATE_TEST_SUITE_P(Buttons, PostToParentTest, buttons, keyword);
+INSTANTIATE_TEST_SUITE_P(Components, SilentPostToParentTest, silent, keyword);
+INSTANTIATE_TEST_SUITE_P(Buttons, ButtonPostToParentTest, buttons, keyword);
