@@ -4,7 +4,9 @@
 #include "resource/KrPadProbe.h"
 #include "support/VirtualSlot.h"
 
+#include <algorithm>
 #include <climits>
+#include <functional>
 #include <gtest/gtest.h>
 #include <type_traits>
 #include <utility>
@@ -36,6 +38,15 @@ void fill(KrPadProbe& pad)
 }
 
 } // namespace
+
+TEST(KrPad, holdsItsFieldsInTheirOrder)
+{
+    const KrPadProbe pad;
+    const std::vector<const void*> fields{&pad.m_nCho,   &pad.m_nJoong1, &pad.m_nJoong2,
+                                          &pad.m_nJong1, &pad.m_nJong2,  &pad.m_nJoong,
+                                          &pad.m_nJong,  &pad.m_nFlag,   &pad.m_chComposing};
+    EXPECT_TRUE(std::is_sorted(fields.begin(), fields.end(), std::less<>()));
+}
 
 TEST(KrPad, isALangPadWithAllItsOperationsInTheirOrder)
 {

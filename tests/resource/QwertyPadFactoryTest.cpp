@@ -5,6 +5,8 @@
 #include "resource/KrPad.h"
 #include "resource/QwertyPadFactoryFixture.h"
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <type_traits>
@@ -27,6 +29,14 @@ public:
 } // namespace
 
 // ---- construction
+
+TEST_F(QwertyPadFactoryTest, holdsItsFieldsInTheirOrder)
+{
+    const OpenFactory factory;
+    const std::vector<const void*> fields{&factory.m_strLang, &factory.m_tblPads,
+                                          &factory.m_nMaxLength, &factory.m_logger};
+    EXPECT_TRUE(std::is_sorted(fields.begin(), fields.end(), std::less<>()));
+}
 
 TEST_F(QwertyPadFactoryTest, isAnObjectDeletedThroughItsBase)
 {

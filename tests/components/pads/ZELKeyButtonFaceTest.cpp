@@ -1,6 +1,7 @@
 // What a key types and what it shows, in both languages, plain and shifted.
 
 #include "components/pads/KeyButtonTest.h"
+#include "resource/QwertyPadFactory.h"
 
 #include <syslog.h>
 
@@ -15,6 +16,20 @@ class ZELKeyButtonFaceTest : public KeyButtonTest
 } // namespace
 
 // ---- what it types
+
+TEST_F(ZELKeyButtonFaceTest, keysSpellASyllable)
+{
+    PANFx::Resource::QwertyPadFactory composer;
+    composer.setMaxLength(8);
+    composer.changeLang("kr");
+    QString text;
+    for (const char* const lang2 : {"code='3131' index='0'", "code='314F' index='0'",
+                                    "code='3142' index='7' code2='3143' index2='8'"}) {
+        Key* const made = keyWith("code='61'", lang2);
+        text = composer.getCompleteText(made->getKeyCode(second, false), made->getKeyIndex(false));
+    }
+    EXPECT_EQ(QString::fromUtf8(text.toLatin1()), QStringLiteral("\uAC11"));
+}
 
 TEST_F(ZELKeyButtonFaceTest, givesTheCodesOfItsLanguagesPlainAndShifted)
 {

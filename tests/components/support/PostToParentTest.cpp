@@ -255,7 +255,8 @@ TEST_P(ButtonPostToParentTest, dimmedAndEnabledAgainItSwallowsTouches)
 namespace {
 
 const auto silent = ::testing::Values("label", "imagebox", "pieimagebox", "chartimagebox");
-const auto buttons = ::testing::Values("button", "checkbutton", "iconcheckbutton", "radiobutton");
+const auto buttons =
+    ::testing::Values("button", "checkbutton", "iconcheckbutton", "radiobutton", "keybutton");
 
 std::string keyword(const ::testing::TestParamInfo<const char*>& info)
 {

@@ -7,6 +7,22 @@ using namespace PANFx::Testing;
 
 namespace {
 
+// counts the keys that a widget gets
+class KeysOf : public QObject
+{
+public:
+    explicit KeysOf(QWidget* widget) { widget->installEventFilter(this); }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::KeyPress ? 1 : 0;
+        return false;
+    }
+};
+
 class ZELLineEditBarcodeTest : public LineEditTest
 {
 protected:
@@ -48,6 +64,20 @@ TEST_F(ZELLineEditBarcodeTest, tellsTheLogOfTheMode)
     EXPECT_EQ(log().texts("ZELLineEdit"),
               (std::vector<std::string>{"[D] [setBarcodeMode] m_bBarcodeMode:ON",
                                         "[D] [setBarcodeMode] m_bBarcodeMode:OFF"}));
+}
+
+TEST_F(ZELLineEditBarcodeTest, enterGoesOnToTheParentAndALetterDoesNot)
+{
+    for (const bool barcode : {false, true}) {
+        OpenLine* const made = line();
+        made->setBarcodeMode(barcode);
+        made->setFocus();
+        KeysOf keys(&panel());
+        QTest::keyClick(made, Qt::Key_A);
+        EXPECT_EQ(keys.count, 0) << barcode;
+        QTest::keyClick(made, Qt::Key_Return);
+        EXPECT_EQ(keys.count, 1) << barcode;
+    }
 }
 
 TEST_F(ZELLineEditBarcodeTest, beforeTheFirstCodeThePlaceholderShowsWhileKeysArrive)

@@ -25,6 +25,13 @@ protected:
         made->setPlaceholderText(placeholder);
         return showsText(made, shown, lightened());
     }
+
+    static ::testing::AssertionResult placeholderOf(OpenLine* made, const QString& text,
+                                                    const QColor& pen)
+    {
+        made->setPlaceholderText(text);
+        return showsText(made, text, pen);
+    }
 };
 
 } // namespace
@@ -89,6 +96,7 @@ TEST_F(ZELLineEditPaintTest, eachStateHasItsFrame)
 
 TEST_F(ZELLineEditPaintTest, drawsNeitherCaretNorSelection)
 {
+    const int flashTime = QApplication::cursorFlashTime();
     QApplication::setCursorFlashTime(0); // a caret would be there all the time
     OpenLine* const made = line();
     Touch::tap(made);
@@ -98,6 +106,7 @@ TEST_F(ZELLineEditPaintTest, drawsNeitherCaretNorSelection)
     EXPECT_TRUE(showsText(made, QStringLiteral("abc"), Qt::black, down));
     made->selectAll();
     EXPECT_TRUE(showsText(made, QStringLiteral("abc"), Qt::black, down));
+    QApplication::setCursorFlashTime(flashTime);
 }
 
 // ---- the text
@@ -172,6 +181,17 @@ TEST_F(ZELLineEditPaintTest, eachFieldWithAnUnknownStyleTellsIt)
 }
 
 // ---- the placeholder
+
+TEST_F(ZELLineEditPaintTest, thePlaceholderIsOpaqueWhateverItsStyleIs)
+{
+    OpenLine* const made = line();
+    PANFx::Resource::Font sheer;
+    *sheer.m_pFont = *style("normal")->m_pFont;
+    *sheer.m_pColor = QColor(0, 0, 0, 60);
+    made->setFont(&sheer);
+    EXPECT_TRUE(placeholderOf(made, QStringLiteral("scan"), lightened()));
+    made->setFont(style("normal"));
+}
 
 TEST_F(ZELLineEditPaintTest, anEmptyFieldShowsItsPlaceholderLighter)
 {

@@ -10,9 +10,57 @@ class ZELLineEditTouchTest : public LineEditTest
 {
 };
 
+// notes the numbers of the library's events at the moment when a widget gets them
+class Arrivals : public QObject
+{
+public:
+    Arrivals(QWidget* widget, std::vector<int>& numbers)
+        : m_numbers(numbers)
+    {
+        widget->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() >= EVENT_MOUSE_DOWN)
+            m_numbers.push_back(event->type());
+        return false;
+    }
+
+private:
+    std::vector<int>& m_numbers;
+};
+
 } // namespace
 
 // ---- the finger and the focus
+
+TEST_F(ZELLineEditTouchTest, theFocusThatATouchTakesSelectsNothing)
+{
+    OpenLine* const made = line();
+    line()->setFocus();
+    made->setFocusPolicy(Qt::NoFocus); // else Qt's own focus of a click comes first
+    made->setText(QStringLiteral("ab"));
+    Touch::tap(made);
+    EXPECT_TRUE(made->hasFocus());
+    EXPECT_FALSE(made->hasSelectedText());
+    QTest::keyClicks(made, QStringLiteral("c"));
+    EXPECT_EQ(made->text(), QStringLiteral("abc"));
+}
+
+TEST_F(ZELLineEditTouchTest, whatItReportsIsQueuedAndNotSent)
+{
+    OpenLine* const made = line();
+    std::vector<int> arrived;
+    const Arrivals arrivals(&panel(), arrived);
+    Touch::press(made);
+    Touch::release(made);
+    made->clearFocus();
+    EXPECT_EQ(arrived, std::vector<int>{});
+    EventLoop::deliver();
+    EXPECT_EQ(arrived, (std::vector<int>{1551, 1552, 1560}));
+}
 
 TEST_F(ZELLineEditTouchTest, aTapGivesPressAndReleaseAndTakesTheFocus)
 {
