@@ -36,6 +36,8 @@ public:
     /** The registered back end, or null. */
     SoundBase* getSoundObject();
 
+    // Each calls the operation of that name of the back end, which says what it plays.
+
     void playTouchSound();
     void playAlertSound();
     void playPopupSound();

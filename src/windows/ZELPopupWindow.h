@@ -23,7 +23,8 @@ namespace PANFx::Windows {
  * waits for its answer. An application derives a class for each dialog, which sets
  * m_nPopupResult and then calls accept() or reject().
  *
- * The caller owns it. An object runs either by exec() or by showAndWait(), not by both.
+ * The caller owns it, and may delete it while it runs. An object that has run by showAndWait()
+ * can no longer run by exec(); the other way round it can.
  */
 class QTPANFX_EXPORT ZELPopupWindow : public ZELWindow, public QDialog
 {
@@ -39,7 +40,10 @@ public:
     /** Ends a nested loop that is still running: showAndWait then returns. */
     ~ZELPopupWindow() override;
 
+    /** Builds components from the section "Components"; a failed one is told and left out. */
     void createSubComponent(TAMFx::Common::Xml::Node* pComponents) override;
+
+    /** Makes the components visible, in the order of creation. */
     void showSubComponent() override;
 
     /** The dialog is about to be shown. Does nothing here. */
@@ -53,18 +57,23 @@ public:
 
     /**
      * Runs the dialog modally. Posts EVENT_WINDOW_ACTIVATE to it.
-     * @return m_nPopupResult. After showAndWait() it returns at once, with an error line
+     * @return m_nPopupResult, or -1 when the dialog was deleted meanwhile. While it runs already,
+     *         and after showAndWait(), it returns at once, with an error line
      */
     int exec() override;
 
     /**
      * Shows the dialog and waits in a loop of its own, without modality: pages underneath go on
      * getting events. The dialog stays visible afterwards.
-     * @return m_nPopupResult. While exec() runs it returns at once, with an error line
+     * @return m_nPopupResult, or -1 when the dialog was deleted meanwhile. While exec() runs it
+     *         returns at once, with an error line
      */
     int showAndWait();
 
+    /** The loop of showAndWait(): comes back after eventLoopExit(). */
     void eventLoopExec();
+
+    /** Ends that loop; nothing while it doesn't run. */
     void eventLoopExit();
 
     /** Whether opening plays the popup sound; it does unless told otherwise. */
@@ -77,6 +86,7 @@ public:
     /** The first top-level component with that id; null, with an error line, when there is none. */
     Components::ZELComponent* getSubComponent(std::string strID);
 
+    /** Puts a picture beneath what is built later; a missing one is told. */
     void createBackgroundSubComponent(std::string strImage);
 
     int m_nPopupResult = -1; ///< what exec() and showAndWait() return
