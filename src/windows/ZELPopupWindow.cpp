@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    const QPointer<QWidget> m_alive;
+    const QPointer<QWidget>& m_alive; // whether the dialog is still there
     bool& m_bMode;
 };
 

@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace PANFx::Components {
@@ -172,18 +173,18 @@ void ZELImageDateEdit::addText(std::string strText)
 
 void ZELImageDateEdit::backspace()
 {
-    const bool yearFirst = m_nDateOrder == yearMonthDay;
-    QString& lastPart = m_nDateOrder == dayMonthYear ? m_strMonth : m_strDay;
-    QString& firstPart = m_nDateOrder == dayMonthYear ? m_strDay : m_strMonth;
-    const bool yearLeft = m_strYear.size() > m_strFixedYear.size();
-    if (yearLeft && !yearFirst)
-        m_strYear.chop(1);
-    else if (!lastPart.isEmpty())
-        lastPart.chop(1);
-    else if (!firstPart.isEmpty())
-        firstPart.chop(1);
-    else if (yearLeft)
-        m_strYear.chop(1);
+    std::array<QString*, 3> lastFirst = {&m_strYear, &m_strDay, &m_strMonth};
+    if (m_nDateOrder == dayMonthYear)
+        lastFirst = {&m_strYear, &m_strMonth, &m_strDay};
+    else if (m_nDateOrder == yearMonthDay)
+        lastFirst = {&m_strDay, &m_strMonth, &m_strYear};
+    for (QString* part : lastFirst) {
+        const auto kept = part == &m_strYear ? m_strFixedYear.size() : 0;
+        if (part->size() > kept) {
+            part->chop(1);
+            break;
+        }
+    }
     update();
 }
 

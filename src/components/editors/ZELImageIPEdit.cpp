@@ -23,6 +23,11 @@ constexpr int nextMustPass = 26;    // from here on one more digit is above 255
 constexpr std::size_t mostTyped = 15;
 constexpr int margin = 8; // pixels left and right of the text
 
+std::size_t placeOf(int octet)
+{
+    return static_cast<std::size_t>(octet) * octetDigits;
+}
+
 // a character is what its code says, whether the machine's char has a sign or not
 int valueOf(char c)
 {
@@ -77,7 +82,7 @@ int ZELImageIPEdit::octetAt(int nIndex) const
 {
     if (nIndex >= octetCount())
         return 0;
-    return toInt(std::string(m_szIP + nIndex * octetDigits, octetDigits).c_str());
+    return toInt(std::string(m_szIP + placeOf(nIndex), octetDigits).c_str());
 }
 
 // Stores the present octet and cuts what lies behind it. A value of more than three characters
@@ -89,8 +94,8 @@ bool ZELImageIPEdit::storeOctet(int nValue)
                             nValue);
         return false;
     }
-    const int place = m_nCurOctet * octetDigits;
-    std::snprintf(m_szIP + place, sizeof m_szIP - static_cast<std::size_t>(place), "%03d", nValue);
+    const std::size_t place = placeOf(m_nCurOctet);
+    std::snprintf(m_szIP + place, sizeof m_szIP - place, "%03d", nValue);
     return true;
 }
 
@@ -149,7 +154,7 @@ void ZELImageIPEdit::backspace()
     if (m_nCurOctet == count)
         --m_nCurOctet;
     else if (shorter == 0)
-        m_szIP[m_nCurOctet * octetDigits] = '\0';
+        m_szIP[placeOf(m_nCurOctet)] = '\0';
     else
         storeOctet(shorter);
     update();

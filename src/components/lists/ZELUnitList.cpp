@@ -36,7 +36,7 @@ bool ZELUnitList::event(QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
     if (type < EVENT_MOUSE_UP)
-        return QWidget::event(pEvent);
+        return ZELList::event(pEvent);
     m_logger.WriteDebug("[%s] e->type() : %d", "event", int(type));
     if (type == EVENT_PAGE_UP || type == EVENT_PAGE_DOWN) {
         ZELEvent* received = receivedEvent(pEvent, m_strID, m_logger);

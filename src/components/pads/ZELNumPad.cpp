@@ -38,7 +38,7 @@ enum KeySet { doubleZero, point, comma, timeOfDay, userDefined };
 
 void showKey(const QWidget& pad, ZELImageButton* key, bool visible)
 {
-    if (ZELComponent::isPartOf(&pad, key))
+    if (key && ZELComponent::isPartOf(&pad, key))
         key->setVisible(visible);
 }
 
@@ -102,7 +102,7 @@ void ZELNumPad::readBackground(Node* pLayout)
     Node* background = pLayout->getNodeByName("backimage");
     Attribute* file = background ? background->getAttributeByName("file") : nullptr;
     m_pBasePixmap = findPicture(file ? file->getValue() : "");
-    if (!m_pBasePixmap) {
+    if (!background || !m_pBasePixmap) {
         m_logger.WriteDebug("m_pBasePixmap is NULL");
         return;
     }
