@@ -372,6 +372,7 @@ TEST_F(ZELComponentTest, subComponentsDieWithTheirParentWidget)
     PlainComponent& component = withParts({"a", "b"});
     component.createSubComponent(element("<x><label><c/></label></x>"));
     std::vector<QPointer<QWidget>> parts;
+    parts.reserve(static_cast<std::size_t>(component.getComponentCount()));
     for (int i = 0; i < component.getComponentCount(); ++i)
         parts.emplace_back(component.getSubComponent(i)->getQWidget());
     component.deleteSubComponent("c");

@@ -15,7 +15,11 @@ class ImagePrintTransportTest : public PanelTest
 {
 protected:
     ImagePrintTransportTest() { m_fd = m_printer.initPrinter(nullptr); }
-    ~ImagePrintTransportTest() override { m_printer.deInitPrinter(m_fd, nullptr); }
+    ~ImagePrintTransportTest() override
+    {
+        m_port.onCall = nullptr; // it may write to what was the test's own
+        m_printer.deInitPrinter(m_fd, nullptr);
+    }
 
     // the waits of a write that is blocked once, while the printer tells this free space
     std::string waitsFor(int free)

@@ -423,8 +423,8 @@ TEST_F(XmlDocumentTest, KeepsAPageInOnePieceOfBoundedSize)
     const auto bytes = HeapCount::bytes();
     ASSERT_TRUE(m_document.LoadXMLFile(path.c_str()));
     EXPECT_EQ(HeapCount::pieces(), pieces + 1);
-    const std::size_t nodes = 3 + 2 * 60;
-    const std::size_t attributes = 6 * 60;
+    const std::size_t nodes = 3 + 2 * std::size_t{60};
+    const std::size_t attributes = 6 * std::size_t{60};
     EXPECT_EQ(m_document.getNodeByName("Components")->getChildNode(0)->getChildNodeSize(), 60);
     EXPECT_LE(HeapCount::bytes() - bytes, content.size() * 13 / 10 + nodes * 48 + attributes * 16);
     EXPECT_LE(sizeof(Node), 48u);
