@@ -1,3 +1,5 @@
+// UpdateImageName is not exported: it is tested through the update events that use it.
+
 #include "events/ZELUpdateInfoItem.h"
 #include "events/ZELUpdateStatusItem.h"
 

@@ -1,3 +1,5 @@
+// The transport of ImagePrint, and SerialLine beneath it, which is not exported.
+
 #include "print/PrinterForTest.h"
 #include "support/PanelTest.h"
 #include "support/SerialPort.h"

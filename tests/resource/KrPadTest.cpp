@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-// The composer's operations, one by one.
+// The composer's operations, one by one, over the alphabet of HangulLetters.
 
 using namespace PANFx::Testing;
 using PANFx::Resource::KrPad;

@@ -1,3 +1,5 @@
+// What a page builds from its file. PageBuilding, which pages and dialogs share, is not exported.
+
 #include "windows/ZELChildWindow.h"
 
 #include "common/tamfx/XmlDocument.h"

@@ -1,4 +1,5 @@
-// asImageButton() is not exported: it is tested through the pad, whose keys are buttons.
+// asImageButton() of ButtonKind is not exported: it is tested through the pad, whose keys are
+// buttons.
 
 #include "components/ComponentTable.h"
 #include "components/pads/NumPadTest.h"

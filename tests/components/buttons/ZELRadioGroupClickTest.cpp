@@ -2,6 +2,8 @@
 
 #include "components/buttons/RadioGroupTest.h"
 
+#include <cstdint>
+
 using namespace PANFx;
 using namespace PANFx::Testing;
 using Components::ZELComponent;
@@ -159,11 +161,12 @@ TEST_F(ZELRadioGroupClickTest, aSenderThatIsGoneIsNotTouched)
     Group* const group = abc();
     group->setButtonSelect("b");
     auto* const gone = new QWidget;
+    const auto address = reinterpret_cast<std::uintptr_t>(static_cast<QObject*>(gone));
     QCoreApplication::postEvent(group, new ZELEvent(EVENT_MOUSE_UP, gone, "a"));
     delete gone;
     log().expectError("[event] grp does not hold the sender", 1, "ZELRadioGroup");
     const RecordedEvent click = panel().takeOne();
-    EXPECT_EQ(click.sender, gone);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(click.sender), address);
     EXPECT_EQ(click.id, "");
     EXPECT_EQ(checked(group), "b");
 }

@@ -42,7 +42,7 @@ public:
         for (int i = 0; i < getComponentCount(); ++i) {
             Components::ZELComponent* const part = getSubComponent(i);
             auto* const button = dynamic_cast<Components::ZELTabButton*>(part);
-            const bool on = button ? button->m_bChecked : !part->getQWidget()->isHidden();
+            const bool on = button ? button->m_bChecked : part && !part->getQWidget()->isHidden();
             if (on)
                 told += (told.empty() ? "" : " ") + part->m_strID;
         }

@@ -1,3 +1,5 @@
+// PostToParent is not exported: it is tested through the components that report touches.
+
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
 #include "events/EventNumbers.h"

@@ -1,4 +1,4 @@
-// receivedEvent() is not exported: it is tested through composites that get events of others.
+// ReceivedEvent is not exported: it is tested through composites that get events of others.
 
 #include "components/pads/NumPadTest.h"
 
