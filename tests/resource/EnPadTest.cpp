@@ -1,21 +1,32 @@
 #include "resource/EnPad.h"
+#include "resource/EspPad.h"
 
 #include <gtest/gtest.h>
 #include <memory>
 #include <type_traits>
 
 using PANFx::Resource::EnPad;
+using PANFx::Resource::EspPad;
 using PANFx::Resource::LangPad;
 
-TEST(EnPad, isALangPadAndNothingMore)
+// EnPad and EspPad differ in their names alone.
+template <class Pad>
+class LatinPad : public ::testing::Test
 {
-    EXPECT_TRUE((std::is_base_of_v<LangPad, EnPad>));
-    EXPECT_EQ(sizeof(EnPad), sizeof(LangPad));
+};
+
+using LatinPads = ::testing::Types<EnPad, EspPad>;
+TYPED_TEST_SUITE(LatinPad, LatinPads);
+
+TYPED_TEST(LatinPad, isALangPadAndNothingMore)
+{
+    EXPECT_TRUE((std::is_base_of_v<LangPad, TypeParam>));
+    EXPECT_EQ(sizeof(TypeParam), sizeof(LangPad));
 }
 
-TEST(EnPad, doesWithEachKeyWhatALangPadDoes)
+TYPED_TEST(LatinPad, doesWithEachKeyWhatALangPadDoes)
 {
-    const std::unique_ptr<LangPad> pad = std::make_unique<EnPad>();
+    const std::unique_ptr<LangPad> pad = std::make_unique<TypeParam>();
     LangPad plain;
     EXPECT_TRUE(pad->getCompleteText().isNull());
     for (const int code : {8, 0x41, 0x20, 0xF1, 8, 0x3131, 0x314F, 0x1F600, 0, 8}) {
@@ -25,9 +36,9 @@ TEST(EnPad, doesWithEachKeyWhatALangPadDoes)
     EXPECT_EQ(pad->getCompleteText().length(), 5);
 }
 
-TEST(EnPad, editsItsTextAsALangPadDoes)
+TYPED_TEST(LatinPad, editsItsTextAsALangPadDoes)
 {
-    const std::unique_ptr<LangPad> pad = std::make_unique<EnPad>();
+    const std::unique_ptr<LangPad> pad = std::make_unique<TypeParam>();
     pad->setCompleteText(QStringLiteral("text"));
     pad->backspace();
     pad->space();
