@@ -11,7 +11,6 @@ class Analyser
 {
 public:
     static constexpr int trendLength = 20;          ///< readings that are kept; what a chart shows
-    static constexpr std::size_t recordLimit = 8;   ///< stored measurements; what the table shows
     static constexpr std::size_t temperatureAt = 3; ///< place of the temperature among the channels
 
     struct Channel
@@ -28,24 +27,10 @@ public:
         bool isAboveLimit() const { return readings.back() > dLimit; }
     };
 
-    /// One stored measurement.
-    struct Record
-    {
-        std::string strTime;
-        std::string strSample;
-        std::array<double, 4> values; ///< in the order of the channels
-    };
-
     Analyser();
 
     /// Takes one more reading of each channel; the oldest one goes.
     void measure();
-
-    /// Stores these readings as a measurement of the sample of that name, or of the next number
-    /// for "". The oldest one goes when there is no more room.
-    void store(const std::vector<Channel>& readings, const std::string& strTime,
-               const std::string& strSample);
-    void clearRecords() { m_records.clear(); }
 
     /// Moves the limit of a channel by so many units of the last place shown, within its range.
     void stepLimit(std::size_t nChannel, int nSteps);
@@ -61,7 +46,6 @@ public:
     void setCalibrated(const QDate& date) { m_calibrated = date; }
 
     const std::vector<Channel>& channels() const { return m_channels; }
-    const std::vector<Record>& records() const { return m_records; } ///< newest first
     QDate calibrationDate() const { return m_calibrated; }
 
     /// A value of the channel as it is shown, without its unit.
@@ -72,8 +56,6 @@ public:
 
 private:
     std::vector<Channel> m_channels;
-    std::vector<Record> m_records;
     QDate m_calibrated = QDate::currentDate().addDays(-19);
-    int m_nSample = 148; ///< number of the newest sample
-    int m_nTime = 0;     ///< readings taken since the start
+    int m_nTime = 0; ///< readings taken since the start
 };

@@ -11,11 +11,12 @@ struct Order
     const char* pszName;
     const char* pszTyped; ///< format in a field
     const char* pszShown; ///< format elsewhere
+    const char* pszShort; ///< the same without the year
 };
 
-const Order orders[] = {{"mdy", "MM/dd/yyyy", "MM/dd/yyyy"},
-                        {"dmy", "dd/MM/yyyy", "dd/MM/yyyy"},
-                        {"ymd", "yyyy/MM/dd", "yyyy-MM-dd"}};
+const Order orders[] = {{"mdy", "MM/dd/yyyy", "MM/dd/yyyy", "MM/dd"},
+                        {"dmy", "dd/MM/yyyy", "dd/MM/yyyy", "dd/MM"},
+                        {"ymd", "yyyy/MM/dd", "yyyy-MM-dd", "MM-dd"}};
 
 const Order& orderOf(const std::string& strOrder)
 {
@@ -35,6 +36,11 @@ unsigned int orderNumber(const std::string& strOrder)
 std::string dateText(const QDate& date, const std::string& strOrder)
 {
     return date.toString(QLatin1String(orderOf(strOrder).pszShown)).toStdString();
+}
+
+std::string shortDateText(const QDate& date, const std::string& strOrder)
+{
+    return date.toString(QLatin1String(orderOf(strOrder).pszShort)).toStdString();
 }
 
 QDate typedDate(const std::string& strText, const std::string& strOrder)

@@ -3,6 +3,7 @@
 #include "components/text/ZELLabel.h"
 #include "events/EventNumbers.h"
 #include "events/ZELEvent.h"
+#include "events/ZELListEvent.h"
 #include "resource/ZELResourceMgr.h"
 
 using PANFx::Components::ZELComponent;
@@ -18,6 +19,13 @@ std::string senderID(QEvent* pEvent)
 std::string touchedID(QEvent* pEvent)
 {
     return pEvent->type() == EVENT_MOUSE_UP ? senderID(pEvent) : "";
+}
+
+const ZELListEvent* listEvent(QEvent* pEvent)
+{
+    ZELEvent* pReport = ZELEvent::from(pEvent);
+    const bool bFits = pReport != nullptr && pReport->getClassType() == "ZELListEvent";
+    return bFits ? static_cast<const ZELListEvent*>(pReport) : nullptr;
 }
 
 std::string localText(const std::string& strKey)

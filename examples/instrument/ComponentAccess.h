@@ -6,6 +6,8 @@
 
 #include <string>
 
+class ZELListEvent;
+
 /// What pages and dialogs of this instrument do alike with their components.
 
 /// The component as one of the class T, or null if there is none or it is of another type.
@@ -28,3 +30,6 @@ std::string localText(const std::string& strKey);
 
 /// Gives a label another text. Null, or anything but a label, is left alone.
 void showText(PANFx::Components::ZELComponent* pLabel, const std::string& strText);
+
+/// What a list reports with this event, or null for an event of another kind.
+const ZELListEvent* listEvent(QEvent* pEvent);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Analyser.h"
+#include "RecordStore.h"
 #include "Settings.h"
 
 #include "windows/ZELMainFrame.h"
@@ -23,6 +24,7 @@ public:
     PANFx::Windows::ZELChildWindow* createChildWindow(std::string strID) override;
 
     Analyser& analyser() { return m_analyser; }
+    RecordStore& records() { return m_records; }
     const Settings& settings() const { return m_settings; }
     void setSettings(const Settings& settings);
 
@@ -44,6 +46,7 @@ private:
     void watchLimits();
 
     Analyser m_analyser;
+    RecordStore m_records;
     Settings m_settings;
     ConsoleSound* m_pSound; ///< belongs to the sound factory
     bool m_bRemembersLanguage = true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Record.h"
+
 #include <string>
 
 /// What the user has set. It lives as long as the program; pages come and go with the language.
@@ -10,7 +12,7 @@ struct Settings
     bool bAlarmMuted = false;
     bool bStirrerPaused = false;
     std::string strStirrerSpeed = "medium"; ///< name of its radio button
-    bool bOldestFirst = false;              ///< order of the results
+    RecordQuery results;                    ///< what the results show
 
     std::string strDateOrder = "ymd"; ///< name of its radio button
     long long nClockOffset = 0;       ///< milliseconds from the machine's clock to the instrument's

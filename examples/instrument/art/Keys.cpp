@@ -19,29 +19,9 @@ const QSize padKey(72, 64);
 const QSize padWideKey(156, 64);
 const int keyHeight = 54;
 
-/// A field before it is cut into its pieces.
-QImage field(State state)
-{
-    QImage image = emptyPicture(fieldSize);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF rect(QPointF(0, 0), fieldSize);
-    if (state == State::Dim) {
-        drawTile(painter, rect, 10, state, blue);
-        return image;
-    }
-    drawWell(painter, rect, 10);
-    const bool bTyping = state == State::Down;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(bTyping ? blue : edgeBright, bTyping ? 2 : 1));
-    const qreal dInset = bTyping ? 1 : 0.5;
-    painter.drawRoundedRect(rect.adjusted(dInset, dInset, -dInset, -dInset), 10, 10);
-    return image;
-}
-
 void addField(Album& album, const std::string& strName, State state)
 {
-    const QImage whole = field(state);
+    const QImage whole = field(state, fieldSize);
     const int nMid = fieldSize.width() - 2 * fieldEnd;
     album.add(strName + "_start", whole.copy(0, 0, fieldEnd, fieldSize.height()));
     album.add(strName + "_mid", whole.copy(fieldEnd, 0, nMid, fieldSize.height()));
@@ -115,6 +95,25 @@ Inside markOn(const QSize& key, const QPainterPath& icon, int nSize)
 }
 
 } // namespace
+
+QImage field(State state, const QSize& size)
+{
+    QImage image = emptyPicture(size);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF rect(QPointF(0, 0), size);
+    if (state == State::Dim) {
+        drawTile(painter, rect, 10, state, blue);
+        return image;
+    }
+    drawWell(painter, rect, 10);
+    const bool bTyping = state == State::Down;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(bTyping ? blue : edgeBright, bTyping ? 2 : 1));
+    const qreal dInset = bTyping ? 1 : 0.5;
+    painter.drawRoundedRect(rect.adjusted(dInset, dInset, -dInset, -dInset), 10, 10);
+    return image;
+}
 
 void addFields(Album& album)
 {

@@ -83,16 +83,6 @@ QImage measurePage()
     return image;
 }
 
-QImage resultsPage()
-{
-    QImage image = panelPage({QRectF(24, 72, 536, 392), QRectF(576, 72, 200, 392)});
-    QPainter painter(&image);
-    painter.fillRect(25, 119, 534, 1, edge);
-    for (int y = 168; y < 440; y += 40)
-        painter.fillRect(40, y, 504, 1, line);
-    return image;
-}
-
 /// A panel with a soft shadow; all around it is transparent.
 QImage dialog(const QSize& size, const QRectF& panel)
 {
@@ -159,7 +149,6 @@ void addPages(Album& album)
 {
     album.add("page_home", homePage());
     album.add("page_measure", measurePage());
-    album.add("page_results", resultsPage());
     album.add("page_settings", panelPage({QRectF(24, 72, 464, 392), QRectF(504, 72, 272, 392)}));
     album.add("page_language", page());
     album.add("page_sample", samplePage());

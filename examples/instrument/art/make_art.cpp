@@ -4,6 +4,7 @@
 #include "Buttons.h"
 #include "Icons.h"
 #include "Keys.h"
+#include "Lists.h"
 #include "Pages.h"
 #include "Palette.h"
 #include "Shapes.h"
@@ -67,6 +68,7 @@ int main(int argc, char** argv)
     addButtons(common);
     addFields(common);
     addKeys(common);
+    addLists(common);
     addIcons(common);
 
     Album korean(strResource + QStringLiteral("kr/img"));

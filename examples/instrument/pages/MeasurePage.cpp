@@ -89,7 +89,10 @@ void MeasurePage::stepLimit(const std::string& strID, int nSteps)
 void MeasurePage::save()
 {
     Settings settings = m_pFrame->settings();
-    analyser().store(m_shown, timeText(), sampleName());
+    std::array<double, 4> values = {};
+    for (std::size_t n = 0; n < values.size(); ++n)
+        values[n] = m_shown[n].readings.back();
+    m_pFrame->records().store(m_pFrame->now(), sampleName(), values);
     settings.strSampleName.clear();
     settings.strSampleCode.clear();
     m_pFrame->setSettings(settings);

@@ -1,103 +1,312 @@
 #include "pages/ResultsPage.h"
 
+#include "Calendar.h"
 #include "InstrumentFrame.h"
 #include "dialogs/QuestionDialog.h"
 
-#include "components/text/ZELLabel.h"
+#include "components/buttons/ZELCheckButton.h"
+#include "components/editors/ZELImageEdit.h"
+#include "components/lists/ZELComboList.h"
+#include "components/lists/ZELHeaderButton.h"
+#include "events/EventNumbers.h"
+#include "events/ZELListEvent.h"
 
-using PANFx::Components::ZELLabel;
+using PANFx::Components::ZELCheckButton;
+using PANFx::Components::ZELComboList;
+using PANFx::Components::ZELHeaderButton;
+using PANFx::Components::ZELImageEdit;
+using PANFx::Components::ZELList;
+using Order = RecordQuery::Order;
+
+namespace {
+
+/// Columns of the list, as they stand in its layout.
+enum Column { pick, timeOfRecord, sample, firstValue, temperature = firstValue + 3 };
+
+const struct
+{
+    Order order;
+    int nColumn;
+} heads[] = {{Order::time, timeOfRecord}, {Order::temperature, temperature}};
+
+} // namespace
 
 ResultsPage::ResultsPage(const std::string& strID, InstrumentFrame* pFrame)
     : InstrumentPage(strID, pFrame)
+    , m_list(component<ZELList>("records", "ZELList"))
+    , m_filter(component<ZELComboList>("filter_names", "ZELComboList"))
 {
-    for (std::size_t nRow = 0; nRow < Analyser::recordLimit; ++nRow) {
-        const std::string strName = "row" + std::to_string(nRow) + ".sample";
-        if (auto* pName = component<ZELLabel>(strName, "ZELLabel"))
-            pName->setElidedText();
-    }
+    m_list.setElided(sample);
+    if (auto* pField = component<ZELImageEdit>("filter", "ZELImageEdit"))
+        pField->setElidedText(Qt::ElideRight);
+}
+
+void ResultsPage::activating()
+{
+    InstrumentPage::activating();
+    fillFilter();
+    m_list.rewind();
+    fillList();
+    setDimmed("print", true); // until there is a printer
 }
 
 bool ResultsPage::event(QEvent* pEvent)
 {
-    const std::string strID = touchedID(pEvent);
-    if (strID == "back")
-        m_pFrame->moveBack(true);
-    else if (strID == "head.time")
-        turnOrder();
-    else if (strID == "head.temp")
-        changeUnit();
-    else if (strID == "clear")
-        askToClear();
-    else
+    if (m_filter.choose(pEvent))
+        filter();
+    else if (!touch(touchedID(pEvent)) && !takeListEvent(pEvent))
         return InstrumentPage::event(pEvent);
     return true;
 }
 
-void ResultsPage::turnOrder()
+bool ResultsPage::touch(const std::string& strID)
+{
+    if (strID == "filter") {
+        turnFilter();
+        return true;
+    }
+    if (!strID.empty() && strID != "filter_names")
+        m_filter.close();
+    if (strID == "back")
+        m_pFrame->moveBack(true);
+    else if (strID == "mean.temp")
+        changeUnit();
+    else if (strID == "samples")
+        m_pFrame->moveTo("samples", true, true);
+    else if (strID == "clear")
+        askToClear();
+    else
+        return false;
+    return true;
+}
+
+// A touch on the ground of the page, or of the list, which lets it through.
+void ResultsPage::mousePressEvent(QMouseEvent* pEvent)
+{
+    m_filter.close();
+    InstrumentPage::mousePressEvent(pEvent);
+}
+
+bool ResultsPage::takeListEvent(QEvent* pEvent)
+{
+    if (senderID(pEvent) != "records")
+        return false;
+    m_filter.close();
+    const QEvent::Type type = pEvent->type();
+    if (type == EVENT_PAGE_UP || type == EVENT_PAGE_DOWN) {
+        fillList(); // the list has turned its page already
+        return true;
+    }
+    const ZELListEvent* pPlace = listEvent(pEvent);
+    if (pPlace == nullptr)
+        return false;
+    if (type == EVENT_LIST_ITEM_CHECKED || type == EVENT_LIST_ITEM_UNCHECKED ||
+        type == EVENT_LIST_ITEM_CLICK)
+        select(pPlace->m_nRow);
+    else if (type == EVENT_LIST_HEADER_CHECKED || type == EVENT_LIST_HEADER_UNCHECKED)
+        selectAll(type == EVENT_LIST_HEADER_CHECKED);
+    else if (type == EVENT_HEADER_UP || type == EVENT_HEADER_DOWN)
+        sort(pPlace->m_nColumn);
+    return true;
+}
+
+const RecordQuery& ResultsPage::query() const
+{
+    return m_pFrame->settings().results;
+}
+
+void ResultsPage::setQuery(const RecordQuery& query)
 {
     Settings settings = m_pFrame->settings();
-    settings.bOldestFirst = !settings.bOldestFirst;
+    settings.results = query;
     m_pFrame->setSettings(settings);
-    showValues();
+    m_list.rewind();
+    fillList();
+}
+
+// The box has turned round by itself, after a touch on another cell it follows here.
+void ResultsPage::select(int nRow)
+{
+    const auto nShown = static_cast<std::size_t>(nRow);
+    if (nShown >= m_shown.size())
+        return;
+    const long long nID = m_shown[nShown].nID;
+    if (m_selected.erase(nID) == 0)
+        m_selected.insert(nID);
+    showSelection();
+}
+
+void ResultsPage::selectAll(bool bSelected)
+{
+    m_selected.clear();
+    if (bSelected) {
+        for (const Record& record : m_pFrame->records().records(query()))
+            m_selected.insert(record.nID);
+    }
+    showSelection();
+}
+
+std::vector<Record> ResultsPage::selectedRecords() const
+{
+    std::vector<Record> selected;
+    for (const Record& record : m_pFrame->records().records(query())) {
+        if (m_selected.count(record.nID) > 0)
+            selected.push_back(record);
+    }
+    return selected;
+}
+
+// The button knows whether it was chosen before, and so whether its direction has changed.
+void ResultsPage::sort(int nColumn)
+{
+    RecordQuery next = query();
+    for (const auto& head : heads) {
+        auto* pHead = m_list.headCell<ZELHeaderButton>(head.nColumn, "ZELHeaderButton");
+        if (pHead == nullptr || head.nColumn != nColumn)
+            continue;
+        next.order = head.order;
+        next.bAscending = pHead->m_bDirection;
+    }
+    setQuery(next);
+}
+
+void ResultsPage::turnFilter()
+{
+    if (m_filter.isOpen())
+        m_filter.close();
+    else
+        m_filter.open();
+}
+
+// The first entry of the drop-down stands for all samples.
+void ResultsPage::filter()
+{
+    if (auto* pField = component<ZELImageEdit>("filter", "ZELImageEdit"))
+        pField->clearFocus();
+    RecordQuery next = query();
+    next.samples.clear();
+    if (m_filter.choice() > 0)
+        next.samples.push_back(m_filter.chosenText());
+    m_selected.clear();
+    setQuery(next);
 }
 
 void ResultsPage::changeUnit()
 {
     analyser().setFahrenheit(!analyser().isFahrenheit());
-    showValues();
+    fillList();
 }
 
+// Deletes what is selected, or all that the list shows when nothing is.
 void ResultsPage::askToClear()
 {
-    QuestionDialog dialog(m_pFrame, "@clear.title", "@clear.note");
+    const bool bAll = m_selected.empty() && query().samples.empty();
+    const std::vector<Record> records =
+        m_selected.empty() ? m_pFrame->records().records(query()) : selectedRecords();
+    const std::string strTitle =
+        bAll ? "@clear.title"
+             : localText("@clear.some") + " (" + std::to_string(records.size()) + ")";
+    QuestionDialog dialog(m_pFrame, strTitle, "@clear.note");
     if (dialog.exec() != QuestionDialog::yes)
         return;
-    analyser().clearRecords();
-    showValues();
+    m_pFrame->records().remove(records);
+    m_selected.clear();
+    fillFilter();
+    setQuery(query());
 }
 
-void ResultsPage::showValues()
+// A sample without a measurement left is none to show.
+void ResultsPage::fillFilter()
 {
-    InstrumentPage::showValues();
-    const bool bOldestFirst = m_pFrame->settings().bOldestFirst;
-    setText("head.time", localText("@time") + (bOldestFirst ? " ▲" : " ▼"));
-    setText("head.temp", analyser().channels()[Analyser::temperatureAt].strUnit);
-    for (std::size_t nRow = 0; nRow < Analyser::recordLimit; ++nRow)
-        showRow(nRow);
+    std::vector<std::string> names = {localText("@all_samples")};
+    RecordQuery next = query();
+    next.samples.clear();
+    for (const SampleSummary& summary : m_pFrame->records().samples()) {
+        names.push_back(summary.strName);
+        for (const std::string& strName : query().samples) {
+            if (strName == summary.strName)
+                next.samples.push_back(strName);
+        }
+    }
+    Settings settings = m_pFrame->settings();
+    settings.results = next;
+    m_pFrame->setSettings(settings);
+    m_filter.setEntries(std::move(names));
+}
+
+void ResultsPage::fillList()
+{
+    RecordStore& store = m_pFrame->records();
+    m_nCount = store.count(query().samples);
+    m_list.setEntries(m_nCount);
+    m_shown = store.records(query(), m_list.firstEntry(), m_list.rows());
+    for (int nRow = 0; nRow < m_list.filledRows(); ++nRow)
+        fillRow(nRow);
+    m_list.showFilledRows();
+    showHeader();
+    showSelection();
     showMeans();
-    setDimmed("print", true); // until there is a printer
-    setDimmed("clear", analyser().records().empty());
 }
 
-void ResultsPage::showRow(std::size_t nRow)
+void ResultsPage::fillRow(int nRow)
 {
-    const std::vector<Analyser::Record>& records = analyser().records();
-    const std::string strRow = "row" + std::to_string(nRow) + ".";
-    const bool bFilled = nRow < records.size();
-    Analyser::Record record = {};
-    if (bFilled)
-        record = records[m_pFrame->settings().bOldestFirst ? records.size() - 1 - nRow : nRow];
-    setText(strRow + "time", record.strTime);
-    setText(strRow + "sample", record.strSample);
+    const Record& record = m_shown[static_cast<std::size_t>(nRow)];
+    const QDate date =
+        QDate::fromString(QString::fromStdString(record.strTime.substr(0, 10)), Qt::ISODate);
+    m_list.setText(nRow, timeOfRecord,
+                   shortDateText(date, m_pFrame->settings().strDateOrder) +
+                       record.strTime.substr(10));
+    m_list.setText(nRow, sample, record.strSample);
     const std::vector<Analyser::Channel>& channels = analyser().channels();
     for (std::size_t n = 0; n < channels.size(); ++n)
-        setText(strRow + channels[n].strName,
-                bFilled ? Analyser::text(channels[n], record.values[n]) : "");
+        m_list.setText(nRow, firstValue + static_cast<int>(n),
+                       Analyser::text(channels[n], record.values[n]));
+}
+
+// The list doesn't care for the heads: which of them is chosen is told here.
+void ResultsPage::showHeader()
+{
+    for (const auto& head : heads) {
+        auto* pHead = m_list.headCell<ZELHeaderButton>(head.nColumn, "ZELHeaderButton");
+        if (pHead == nullptr)
+            continue;
+        const bool bChosen = head.order == query().order;
+        pHead->setCheck(bChosen, bChosen && query().bAscending);
+        if (head.order == Order::temperature)
+            pHead->setTitle(analyser().channels()[Analyser::temperatureAt].strUnit);
+        pHead->update();
+    }
+    const std::vector<std::string>& samples = query().samples;
+    std::string strFilter = samples.empty() ? localText("@all_samples") : "";
+    for (const std::string& strName : samples)
+        strFilter += (strFilter.empty() ? "" : ", ") + strName;
+    if (auto* pField = component<ZELImageEdit>("filter", "ZELImageEdit")) {
+        pField->setText(strFilter);
+        pField->update();
+    }
+}
+
+void ResultsPage::showSelection()
+{
+    for (int nRow = 0; nRow < m_list.filledRows(); ++nRow)
+        m_list.setChecked(nRow, pick,
+                          m_selected.count(m_shown[static_cast<std::size_t>(nRow)].nID) > 0);
+    const auto nSelected = static_cast<int>(m_selected.size());
+    if (auto* pAll = m_list.headCell<ZELCheckButton>(pick, "ZELCheckButton")) {
+        pAll->m_bChecked = nSelected > 0 && nSelected == m_nCount;
+        pAll->update();
+    }
+    setText("count",
+            (nSelected > 0 ? std::to_string(nSelected) + " / " : "") + std::to_string(m_nCount));
+    setDimmed("clear", m_nCount == 0);
 }
 
 void ResultsPage::showMeans()
 {
-    const std::vector<Analyser::Record>& records = analyser().records();
-    setText("count", std::to_string(records.size()));
+    const std::array<double, 4> means = m_pFrame->records().means(query().samples);
     const std::vector<Analyser::Channel>& channels = analyser().channels();
     for (std::size_t n = 0; n < channels.size(); ++n) {
-        double dSum = 0;
-        for (const Analyser::Record& record : records)
-            dSum += record.values[n];
-        const std::string strMean =
-            records.empty()
-                ? "–"
-                : Analyser::text(channels[n], dSum / static_cast<double>(records.size()));
+        const std::string strMean = m_nCount == 0 ? "–" : Analyser::text(channels[n], means[n]);
         setText("mean." + channels[n].strName, strMean + " " + channels[n].strUnit);
     }
 }

@@ -40,15 +40,10 @@ void Itinerary::results()
     claim(add("results", "results", {goHome(), tap("results"), tap("print")}),
           "only what works is enabled",
           [this] { return !m_screen.isEnabled("print") && m_screen.isEnabled("clear"); });
-    claim(add("oldest-first", "results", {tap("head.time")}), "the order is turned round",
-          [this] { return m_frame.settings().bOldestFirst; });
-    claim(add("fahrenheit", "results", {tap("head.temp")}), "the unit is changed",
-          [this] { return analyser().isFahrenheit(); });
-    add("question", "results", {tap("head.time"), tap("head.temp"), tap("clear")}).strDialog =
-        "question";
+    add("question", "results", {tap("clear")}).strDialog = "question";
     add("question-pressed", "results", {press("no")}).strDialog = "question";
     claim(add("question-no", "results", {release()}), "the results are still there",
-          [this] { return !analyser().records().empty(); });
+          [this] { return m_frame.records().count({}) > 0; });
 }
 
 void Itinerary::settings()
@@ -81,11 +76,10 @@ void Itinerary::calibration()
 
 void Itinerary::saving()
 {
-    const std::string strLast = analyser().records().front().strSample;
+    const int nStored = m_frame.records().count({});
     claim(add("saved", "measure", {goHome(), tap("measure"), tap("temp"), tap("save")}),
-          "the readings are stored and held", [this, strLast] {
-              return analyser().records().front().strSample != strLast &&
-                     !m_screen.isEnabled("save");
+          "the readings are stored and held", [this, nStored] {
+              return m_frame.records().count({}) == nStored + 1 && !m_screen.isEnabled("save");
           });
     add("back", "home", {tap("back")});
 }
@@ -135,12 +129,13 @@ void Itinerary::clearing()
 {
     claim(add("cleared", "results", {tap("results"), tap("clear"), tap("yes")}),
           "nothing is left to clear",
-          [this] { return analyser().records().empty() && !m_screen.isEnabled("clear"); });
+          [this] { return m_frame.records().count({}) == 0 && !m_screen.isEnabled("clear"); });
     add("end", "home", {tap("back")});
 }
 
 std::vector<TourStep> Itinerary::steps()
 {
+    m_frame.records().startAnew(); // the steps count on what is stored
     firstLook();
     limit();
     results();

@@ -66,17 +66,37 @@ void Screen::activate()
         top()->activateWindow();
 }
 
+namespace {
+
+/// A part of a component by its id: the parts that a scroll makes itself are widgets in it only.
+ZELComponent* partOf(ZELComponent& whole, const std::string& strID)
+{
+    if (ZELComponent* pPart = whole.getSubComponent(strID))
+        return pPart;
+    for (QObject* pChild : whole.getQWidget()->children()) {
+        auto* pPart = dynamic_cast<ZELComponent*>(pChild);
+        if (pPart != nullptr && pPart->m_strID == strID)
+            return pPart;
+    }
+    return nullptr;
+}
+
+} // namespace
+
 ZELComponent* Screen::find(const std::string& strID)
 {
-    const std::size_t nSlash = strID.find('/');
+    std::size_t nSlash = strID.find('/');
     const std::string strOuter = strID.substr(0, nSlash);
     ZELPopupWindow* pDialog = findDialog();
     ZELChildWindow* pPage = m_frame.getCurrentWindow();
     ZELComponent* pComponent = pDialog != nullptr ? pDialog->getSubComponent(strOuter)
                                : pPage != nullptr ? pPage->getSubComponent(strOuter)
                                                   : nullptr;
-    if (pComponent != nullptr && nSlash != std::string::npos)
-        pComponent = pComponent->getSubComponent(strID.substr(nSlash + 1));
+    while (pComponent != nullptr && nSlash != std::string::npos) {
+        const std::size_t nStart = nSlash + 1;
+        nSlash = strID.find('/', nStart);
+        pComponent = partOf(*pComponent, strID.substr(nStart, nSlash - nStart));
+    }
     if (pComponent == nullptr && m_strMissing.empty())
         m_strMissing = strID;
     return pComponent;

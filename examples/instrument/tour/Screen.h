@@ -37,7 +37,7 @@ public:
     void activate();
 
     /// Puts the finger on the middle of a component of the dialog, or else of the page; one inside
-    /// of a group is called "group/component".
+    /// of others is called "group/component" or "list/row/cell".
     void press(const std::string& strID);
     void release();
     void tap(const std::string& strID);

@@ -199,7 +199,7 @@ void TypingItinerary::scanned()
           });
     claim(add("sample-saved", "results", {tap("save"), goHome(), tap("results")}),
           "the result has the name", [this, strName] {
-              return m_frame.analyser().records().front().strSample == strName &&
+              return m_frame.records().recentSamples(1) == std::vector{strName} &&
                      m_frame.settings().strSampleName.empty();
           });
 }

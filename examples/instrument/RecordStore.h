@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Record.h"
+
+#include "windows/Dao.h"
+
+#include <QDateTime>
+
+/// The stored measurements, in the instrument's database. On its first start an instrument has
+/// those of the last weeks, so that there is something to look at. What the database refuses is
+/// told in the log; a question then has an empty answer.
+class RecordStore : private PANFx::Windows::Dao
+{
+public:
+    /// Makes and fills the table if there is none.
+    RecordStore();
+
+    /// Stores a measurement; one without a name gets the next number in its place.
+    void store(const QDateTime& time, std::string strSample, const std::array<double, 4>& values);
+
+    int count(const std::vector<std::string>& samples);
+
+    /// So many measurements from that one on, which is counted from 0; none for all of them.
+    std::vector<Record> records(const RecordQuery& query, int nFirst = 0, int nCount = -1);
+
+    /// The mean values; all are 0 where nothing is stored.
+    std::array<double, 4> means(const std::vector<std::string>& samples);
+
+    /// All names, in the order of the alphabet.
+    std::vector<SampleSummary> samples();
+
+    /// The names that were used last, the last one first.
+    std::vector<std::string> recentSamples(int nCount);
+
+    void remove(const std::vector<Record>& records);
+
+    /// Removes everything and stores what an instrument has on its first start.
+    void startAnew();
+
+private:
+    bool hasTable();
+    void insert(const std::vector<Record>& records);
+    std::string nextNumber();
+};
