@@ -2,19 +2,14 @@
 // painted in every state, touched, and destroyed. A new component class needs its line in the
 // component table and its sample in layouts/, and nothing here.
 
-#include "catalogue/Sample.h"
+#include "catalogue/SampleTest.h"
 #include "common/tamfx/XmlDocument.h"
 #include "components/ComponentFactory.h"
-#include "components/ComponentTable.h"
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
 #include "components/editors/ZELImageEdit.h"
 #include "components/text/ZELLineEdit.h"
-#include "events/EventNumbers.h"
-#include "events/Timer.h"
-#include "events/ZELEvent.h"
 #include "support/EventLoop.h"
-#include "support/PanelTest.h"
 #include "support/Pixels.h"
 #include "support/Touch.h"
 
@@ -23,46 +18,16 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <cxxabi.h>
-#include <typeinfo>
-
-namespace PANFx::Components {
-
-void PrintTo(const ComponentEntry& entry, std::ostream* out)
-{
-    *out << entry.keyword;
-}
-
-} // namespace PANFx::Components
 
 using namespace PANFx::Testing;
 using PANFx::Components::ComponentEntry;
 using PANFx::Components::ComponentFactory;
-using PANFx::Components::Timer;
 using PANFx::Components::ZELComponent;
 using TAMFx::Common::Xml::Node;
 
 namespace {
 
 constexpr const char* emptyId = "it";
-constexpr int ticksOfALongHold = 6;
-
-std::vector<ComponentEntry> allEntries()
-{
-    std::vector<ComponentEntry> all = PANFx::Components::componentTable();
-    for (const auto* table : {&PANFx::Components::buttonTable(), &PANFx::Components::listTable()})
-        all.insert(all.end(), table->begin(), table->end());
-    return all;
-}
-
-std::string classNameOf(const ZELComponent& component)
-{
-    int status = 0;
-    char* const name = abi::__cxa_demangle(typeid(component).name(), nullptr, nullptr, &status);
-    const std::string whole = name ? name : "";
-    std::free(name);
-    return whole.substr(whole.rfind(':') + 1);
-}
 
 // the two progress bars have a type string that is shorter than the class name
 std::string classNameFor(const std::string& type)
@@ -85,18 +50,6 @@ void setDimMode(QWidget* widget, bool dim)
     setDim<PANFx::Components::ZELLineEdit>(widget, dim);
 }
 
-// as if a held button's timer had ticked so often: without the seconds that it takes
-void tickAllTimers(QWidget* widget)
-{
-    for (QTimer* const any : widget->findChildren<QTimer*>()) {
-        auto* const timer = dynamic_cast<Timer*>(any);
-        for (int i = 0; timer && timer->isActive() && i < ticksOfALongHold; ++i) {
-            QCoreApplication::postEvent(timer->m_pOwner, new ZELEvent(EVENT_TIMER, timer, ""));
-            EventLoop::deliver();
-        }
-    }
-}
-
 void typeInto(QWidget* widget)
 {
     for (const int key :
@@ -115,7 +68,7 @@ void touchEverywhere(QWidget* widget)
         Touch::press(widget, at);
         EventLoop::deliver();
         Pixels::grab(widget);
-        tickAllTimers(widget);
+        Touch::tickLongHold(widget);
         Touch::drag(widget, corner);
         Touch::release(widget, at);
         EventLoop::deliver();
@@ -171,22 +124,10 @@ void passThroughStates(ZELComponent* component)
     Pixels::grab(widget);
 }
 
-class Catalogue : public PanelTest, public ::testing::WithParamInterface<ComponentEntry>
+class Catalogue : public SampleTest, public ::testing::WithParamInterface<ComponentEntry>
 {
 protected:
-    Catalogue()
-    {
-        // the pictures that a sample may name
-        writePicture("up.png", 60, 40, Qt::red);
-        writePicture("down.png", 60, 40, Qt::green);
-        writePicture("dim.png", 60, 40, Qt::gray);
-        writePicture("start.png", 8, 40, Qt::darkRed);
-        writePicture("mid.png", 4, 40, Qt::darkGreen);
-        writePicture("end.png", 8, 40, Qt::darkBlue);
-        writePicture("icon.png", 20, 20, Qt::yellow);
-        writePicture("back.png", 100, 50, Qt::cyan);
-        m_read = readSample(GetParam().keyword, m_document, m_sample);
-    }
+    Catalogue() { m_read = readSample(GetParam().keyword, m_document, m_sample); }
 
     ZELComponent* create(const std::string& id, Node* layout)
     {
@@ -224,14 +165,7 @@ protected:
     }
 
     bool m_read = false;
-    TAMFx::Common::Xml::XmlDocument m_document;
-    Sample m_sample;
 };
-
-std::string keywordOf(const ::testing::TestParamInfo<ComponentEntry>& info)
-{
-    return info.param.keyword;
-}
 
 class Vocabulary : public PanelTest
 {

@@ -33,7 +33,7 @@ struct SampleLine
  * "paints" is whether the full layout shows something, "tap" the numbers of the events that its
  * parent gets for one touch, "x" and "y" where the touch goes (the middle otherwise). A line is
  * <line class="ZELTab" times="2">text</line>; "times" may be "some". In a line, the id of the
- * component without a layout is "it". Pictures that a layout may name: see the catalogue.
+ * component without a layout is "it". Pictures that a layout may name: see SampleTest.
  */
 struct Sample
 {

@@ -2,19 +2,16 @@
 
 #include "common/tamfx/XmlDocument.h"
 #include "components/ComponentFactory.h"
+#include "support/InFrontOf.h"
 
 #include <cstdlib>
-#include <dlfcn.h>
 #include <utility>
 
-// The two member functions as the compiler names them. Where these names change, nothing is
-// called any more, and the tests that count on it fail.
+// the two member functions as the compiler names them
 #define LOAD_XML_FILE "_ZN5TAMFx6Common3Xml11XmlDocument11LoadXMLFileEPKc"
 #define CREATE_COMPONENT                                                                           \
     "_ZN5PANFx10Components16ComponentFactory15createComponentEP7QWidget"                           \
     "NSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEES9_PN5TAMFx6Common3Xml4NodeE"
-
-#define IN_FRONT_OF(name) __asm__(name) __attribute__((visibility("default"), used))
 
 namespace PANFx::Testing {
 
@@ -26,15 +23,6 @@ using TAMFx::Common::Xml::Node;
 using TAMFx::Common::Xml::XmlDocument;
 
 LibraryFaults* active = nullptr;
-
-template <typename Function>
-Function next(const char* name)
-{
-    void* const found = dlsym(RTLD_NEXT, name);
-    if (!found)
-        std::abort();
-    return reinterpret_cast<Function>(found);
-}
 
 } // namespace
 
@@ -48,8 +36,6 @@ LibraryFaults::~LibraryFaults()
 {
     active = nullptr;
 }
-
-// a member function takes its object as the first argument
 
 bool faults_loadXMLFile(XmlDocument* document, const char* path) IN_FRONT_OF(LOAD_XML_FILE);
 ZELComponent* faults_createComponent(ComponentFactory* factory, QWidget* parent, std::string type,

@@ -1,5 +1,8 @@
 #include "support/Touch.h"
 
+#include "events/EventNumbers.h"
+#include "events/Timer.h"
+#include "events/ZELEvent.h"
 #include "support/EventLoop.h"
 
 #include <QCoreApplication>
@@ -84,6 +87,17 @@ void hold(QWidget* widget, int milliseconds)
     press(widget);
     EventLoop::runFor(milliseconds);
     release(widget);
+}
+
+void tickLongHold(QWidget* widget, int ticks)
+{
+    for (QTimer* const any : widget->findChildren<QTimer*>()) {
+        auto* const timer = dynamic_cast<Components::Timer*>(any);
+        for (int i = 0; timer && timer->isActive() && i < ticks; ++i) {
+            QCoreApplication::postEvent(timer->m_pOwner, new ZELEvent(EVENT_TIMER, timer, ""));
+            EventLoop::deliver();
+        }
+    }
 }
 
 QPoint middleInWindow(const QWidget* widget)

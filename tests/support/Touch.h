@@ -31,6 +31,12 @@ void drag(QWidget* widget, const QPoint& to);
 /** Press, event loop for so many milliseconds, release. */
 void hold(QWidget* widget, int milliseconds);
 
+/**
+ * The ticks of a hold for long, without the seconds that they take: the running timers of the
+ * widget and of what is in it tick so often. To be called between press and release; delivers.
+ */
+void tickLongHold(QWidget* widget, int ticks = 6);
+
 /** Where the middle of a widget lies in its window. */
 QPoint middleInWindow(const QWidget* widget);
 
