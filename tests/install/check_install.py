@@ -7,57 +7,26 @@ programs look for at start, and that they export what their headers show and not
 """
 
 import argparse
-import os
 import pathlib
 import re
-import subprocess
 import sys
 import tempfile
 
-HERE = pathlib.Path(__file__).resolve().parent
+from install_tools import EXAMPLES, HERE, Tree, expect, foreign_symbol, run
+
 LAYOUT = """<layout><Base><background>back.png</background></Base><Components><label>
 <hello title="Hello"><position x="1" y="1" width="99" height="30"/></hello>
 </label></Components></layout>
 """
 PBM_PICTURE = "P1 2 2 1 0 0 1\n"  # any format will do: the file's content tells it
 
-# mangled names of templates of the C++ library and of Qt that were made here, and the linker's own
-FOREIGN = re.compile(
-    r"_Z(?:GV|T[ISTVC])?Z?N?K?(?:S[a-z]|9__gnu_cxx|\d+Q[A-Z])"
-    r"|(?:_init|_fini|_edata|_end|__bss_start)$"
-)
 CLASS = re.compile(r"\b(?:class|struct)\s+(?:QTPANFX|TAMFX)_EXPORT\s+(\w+)")
 FUNCTION = re.compile(r"^(?:QTPANFX|TAMFX)_EXPORT\s+[^;{]*?(\w+)\(", re.MULTILINE)
 
 
-def run(*command, env=None, **options):
-    """Runs a command to its end and gives what it printed; ends the test when it fails."""
-    command = [str(word) for word in command]
-    done = subprocess.run(
-        command,
-        env={**os.environ, **(env or {})},
-        stdout=subprocess.PIPE,
-        stderr=subprocess.STDOUT,
-        text=True,
-        check=False,
-        **options,
-    )
-    if done.returncode != 0:
-        sys.exit(f"failed ({done.returncode}): {' '.join(command)}\n{done.stdout}")
-    return done.stdout
-
-
-def expect(condition, text):
-    if not condition:
-        sys.exit(f"FAILED: {text}")
-    print(f"ok: {text}")
-
-
-class Install:
+class Install(Tree):
     def __init__(self, options, folder):
-        self.options = options
-        self.prefix = folder / "prefix"
-        self.library_folder = self.prefix / options.libdir
+        super().__init__(folder / "prefix", options.libdir, options)
         self.work = folder / "work"
         self.root = folder / "root"
         self.write_root()
@@ -77,57 +46,43 @@ class Install:
         run(self.options.cmake, "--install", self.options.build, "--prefix", self.prefix)
 
     def check_run(self, program, how):
-        out = run(
-            program,
-            env={
-                "LD_LIBRARY_PATH": str(self.library_folder),
-                "QTPANFX_SYSROOT": str(self.root),
-                "QT_QPA_PLATFORM": "offscreen",
-            },
-            timeout=60,
-        )
+        env = {**self.environment(), "QTPANFX_SYSROOT": str(self.root)}
+        out = run(program, env=env, timeout=60)
         expect("label visible" in out, f"an application built by {how} shows its page")
 
     def check_foundation_run(self, program, how):
         layout = self.root / "app/bin/resource/layout/home.resource"
-        out = run(program, layout, env={"LD_LIBRARY_PATH": str(self.library_folder)}, timeout=60)
+        out = run(program, layout, env=self.environment(), timeout=60)
         expect("label seen" in out, f"a program on the foundation built by {how} runs")
-        loaded = run("ldd", program, env={"LD_LIBRARY_PATH": str(self.library_folder)})
+        loaded = self.loaded(program)
         expect("libTAMFx.so.0" in loaded, f"and uses the installed libTAMFx ({how})")
         expect("Qt" not in loaded, f"and loads no Qt ({how})")
 
     def check_cmake_package(self):
+        package = f"-DQTPANFX={self.options.package}"
         build = self.work / "cmake"
-        run(
-            self.options.cmake, "-S", HERE / "panel", "-B", build, "-G", self.options.generator,
-            f"-DCMAKE_PREFIX_PATH={self.prefix}",
-            f"-DCMAKE_CXX_COMPILER={self.options.compiler}", "-DCMAKE_BUILD_TYPE=Debug",
-            "-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF",
-        )
-        run(self.options.cmake, "--build", build)
+        self.build(HERE / "panel", build, package)
         self.check_run(build / "panel_consumer", "find_package")
-        self.check_foundation_run(build / "foundation_consumer", "find_package")
-
-    def pkg_config(self, *words):
-        folder = str(self.library_folder / "pkgconfig")
-        return run("pkg-config", *words, env={"PKG_CONFIG_PATH": folder}).split()
-
-    def compile_by_pkg_config(self, package, source, program):
-        run(
-            self.options.compiler, "-std=c++17", "-fPIC", *self.pkg_config("--cflags", package),
-            source, "-o", program, *self.pkg_config("--libs", package),
-        )
+        self.build(HERE / "foundation", self.work / "tamfx")
+        self.check_foundation_run(self.work / "tamfx/foundation_consumer", "find_package")
+        for example, program in (("first-page", "hello"), ("own-component", "tank")):
+            build = self.work / example
+            self.build(EXAMPLES / example, build, package)
+            self.expect_lives(build / program, EXAMPLES / example / "root", "find_package")
 
     def check_pkg_config(self):
-        for package in ("QTPANFx", "TAMFx"):
-            version = self.pkg_config("--modversion", package)
-            expect(version == [self.options.version], f"{package}.pc says {self.options.version}")
+        package = self.options.package
+        for name in (package, "TAMFx"):
+            version = self.pkg_config("--modversion", name)
+            expect(version == [self.options.version], f"{name}.pc says {self.options.version}")
         words = " ".join(self.pkg_config("--cflags", "--libs", "TAMFx"))
         expect("Qt5" not in words and "Qt6" not in words, "TAMFx.pc asks for no Qt")
-        self.compile_by_pkg_config("QTPANFx", HERE / "panel/main.cpp", self.work / "panel")
+        self.compile(package, HERE / "panel/main.cpp", self.work / "panel")
         self.check_run(self.work / "panel", "pkg-config")
-        self.compile_by_pkg_config("TAMFx", HERE / "foundation/main.cpp", self.work / "foundation")
+        self.compile("TAMFx", HERE / "foundation/main.cpp", self.work / "foundation")
         self.check_foundation_run(self.work / "foundation", "pkg-config")
+        self.compile(package, EXAMPLES / "first-page/main.cpp", self.work / "hello")
+        self.expect_lives(self.work / "hello", EXAMPLES / "first-page/root", "pkg-config")
 
     def check_header_tree(self):
         for header in pathlib.Path(self.options.src).rglob("*.h"):
@@ -146,12 +101,12 @@ class Install:
         return names
 
     def check_symbols(self, library):
-        path = self.library_folder / f"lib{library}.so"
+        path = self.libraries / f"lib{library}.so"
         dynamic = run("readelf", "-d", path)
         expect(f"soname: [lib{library}.so.0]" in dynamic, f"lib{library} is named .so.0")
         names = self.exported_names()
         mangled = [line.split()[2] for line in run("nm", "-D", "--defined-only", path).splitlines()]
-        ours = [symbol for symbol in mangled if not FOREIGN.match(symbol)]
+        ours = [symbol for symbol in mangled if not foreign_symbol(symbol)]
         ours = run("c++filt", input="\n".join(ours)).splitlines()
         stray = [symbol for symbol in ours if not names.intersection(re.findall(r"\w+", symbol))]
         expect(len(ours) > 50, f"lib{library} exports something ({len(ours)} symbols)")
@@ -162,7 +117,7 @@ class Install:
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    for name in ("cmake", "build", "generator", "compiler", "qt", "version", "src", "libdir"):
+    for name in ("cmake", "build", "generator", "compiler", "package", "version", "src", "libdir"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     with tempfile.TemporaryDirectory(prefix="qtpanfx-install-") as name:
@@ -170,9 +125,9 @@ def main():
         installed.work.mkdir()
         installed.install()
         installed.check_header_tree()
-        for library in ("TAMFx", "QTPANFx"):
+        for library in ("TAMFx", options.package):
             installed.check_symbols(library)
-        dynamic = run("readelf", "-d", installed.library_folder / "libTAMFx.so")
+        dynamic = run("readelf", "-d", installed.libraries / "libTAMFx.so")
         expect("Qt" not in dynamic, "libTAMFx needs no Qt")
         installed.check_pkg_config()
         installed.check_cmake_package()

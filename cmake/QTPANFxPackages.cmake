@@ -1,0 +1,67 @@
+# Debian packages, by "cpack -G DEB" in the build folder. The packages of the foundation, the headers
+# and the tools are the same whichever Qt version they are built beside; those of the library and
+# its development files carry the version in their names.
+
+set(CPACK_PACKAGE_NAME qtpanfx)
+set(CPACK_PACKAGE_VENDOR QTPANFx)
+set(CPACK_PACKAGE_CONTACT "QTPANFx developers <developers@qtpanfx.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
+set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+
+set(CPACK_COMPONENTS_ALL foundation foundation-dev headers library library-dev)
+if(TARGET printer-emulator)
+    list(APPEND CPACK_COMPONENTS_ALL tools)
+endif()
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS OFF)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+
+if(QTPANFX_QT_MAJOR EQUAL 5)
+    set(library_package libqtpanfx-qt5-0)
+    set(library_dev_package libqtpanfx-qt5-dev)
+    set(qt_dev_package qtbase5-dev)
+else()
+    set(library_package libqtpanfx0)
+    set(library_dev_package libqtpanfx-dev)
+    set(qt_dev_package qt6-base-dev)
+endif()
+set(same_version "(= ${PROJECT_VERSION})")
+
+# qtpanfx_package(COMPONENT NAME DESCRIPTION [DEPENDENCIES])
+function(qtpanfx_package component name description)
+    string(TOUPPER ${component} key)
+    set(CPACK_DEBIAN_${key}_PACKAGE_NAME ${name} PARENT_SCOPE)
+    set(CPACK_COMPONENT_${key}_DESCRIPTION ${description} PARENT_SCOPE)
+    string(JOIN ", " dependencies ${ARGN})
+    set(CPACK_DEBIAN_${key}_PACKAGE_DEPENDS ${dependencies} PARENT_SCOPE)
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name} RENAME copyright COMPONENT ${component})
+    if(component MATCHES "dev|headers")
+        set(CPACK_DEBIAN_${key}_PACKAGE_SECTION libdevel PARENT_SCOPE)
+    endif()
+endfunction()
+qtpanfx_package(foundation libtamfx0
+    "Foundation of QTPANFx: XML tree, collections, configuration file, SQLite")
+qtpanfx_package(foundation-dev libtamfx-dev
+    "Foundation of QTPANFx: files for development" "libtamfx0 ${same_version}")
+qtpanfx_package(headers libqtpanfx-headers
+    "QTPANFx: headers for both Qt versions" "libtamfx-dev ${same_version}")
+set(CPACK_DEBIAN_HEADERS_PACKAGE_ARCHITECTURE all)
+qtpanfx_package(library ${library_package}
+    "XML layout files to the touch panel of an instrument, with Qt ${QTPANFX_QT_MAJOR}"
+    "libtamfx0 ${same_version}")
+qtpanfx_package(library-dev ${library_dev_package}
+    "QTPANFx with Qt ${QTPANFX_QT_MAJOR}: files for development"
+    "${library_package} ${same_version}" "libqtpanfx-headers ${same_version}" ${qt_dev_package})
+qtpanfx_package(tools qtpanfx-tools
+    "QTPANFx: an emulator of the thermal printer, for development machines")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
+
+include(CPack)
