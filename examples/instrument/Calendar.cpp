@@ -38,9 +38,12 @@ std::string dateText(const QDate& date, const std::string& strOrder)
     return date.toString(QLatin1String(orderOf(strOrder).pszShown)).toStdString();
 }
 
-std::string shortDateText(const QDate& date, const std::string& strOrder)
+std::string shortTimeText(const std::string& strTime, const std::string& strOrder)
 {
-    return date.toString(QLatin1String(orderOf(strOrder).pszShort)).toStdString();
+    const QString strStored = QString::fromStdString(strTime);
+    const QDate date = QDate::fromString(strStored.left(10), Qt::ISODate);
+    return (date.toString(QLatin1String(orderOf(strOrder).pszShort)) + strStored.mid(10))
+        .toStdString();
 }
 
 QDate typedDate(const std::string& strText, const std::string& strOrder)

@@ -1,5 +1,6 @@
 #include "InstrumentFrame.h"
 
+#include "pages/AboutPage.h"
 #include "pages/ClockPage.h"
 #include "pages/HomePage.h"
 #include "pages/LanguagePage.h"
@@ -7,6 +8,7 @@
 #include "pages/NetworkPage.h"
 #include "pages/ResultsPage.h"
 #include "pages/SamplePage.h"
+#include "pages/SamplesPage.h"
 #include "pages/SettingsPage.h"
 #include "sound/ConsoleSound.h"
 
@@ -49,6 +51,10 @@ ZELChildWindow* InstrumentFrame::createChildWindow(std::string strID)
         return new NetworkPage(strID, this);
     if (strID == "sample")
         return new SamplePage(strID, this);
+    if (strID == "samples")
+        return new SamplesPage(strID, this);
+    if (strID == "about")
+        return new AboutPage(strID, this);
     if (strID == "language")
         return new LanguagePage(strID, this);
     return nullptr;

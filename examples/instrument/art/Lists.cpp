@@ -184,7 +184,7 @@ QImage dropBackdrop()
     QImage image = emptyPicture(QSize(56, dropRows * dropRow));
     QPainter painter(&image);
     painter.fillRect(image.rect(), edgeBright);
-    painter.fillRect(image.rect().adjusted(0, 1, -1, 0), panelBottom);
+    painter.fillRect(image.rect().adjusted(0, 1, -1, -1), panelBottom);
     return image;
 }
 

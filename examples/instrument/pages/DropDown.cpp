@@ -29,11 +29,9 @@ void DropDown::setEntries(std::vector<std::string> entries)
         return;
     const std::size_t nPages = std::max<std::size_t>(1, (m_entries.size() + m_nRows - 1) / m_nRows);
     m_pList->setTotalPage(static_cast<int>(nPages));
-    m_pList->setNowPage(1);
     // what lies behind the page turner is there only as long as that is
     if (ZELComponent* pBackdrop = m_pList->getSubComponent("backdrop"))
         nPages > 1 ? pBackdrop->showWindow() : pBackdrop->hideWindow();
-    fill();
 }
 
 // The last page is full as well: empty rows would part the entries from the field.
@@ -52,21 +50,23 @@ void DropDown::fill()
         m_pList->addItem(m_entries[n - 1]);
 }
 
-void DropDown::open()
+void DropDown::turn()
 {
-    if (m_nRows > 0 && !m_entries.empty())
-        m_pList->showWindow();
+    if (m_pList == nullptr || m_entries.empty())
+        return;
+    if (m_pList->isVisible()) {
+        m_pList->hideWindow();
+        return;
+    }
+    m_pList->setNowPage(1);
+    fill();
+    m_pList->showWindow();
 }
 
 void DropDown::close()
 {
     if (m_pList != nullptr)
         m_pList->hideWindow();
-}
-
-bool DropDown::isOpen() const
-{
-    return m_pList != nullptr && m_pList->isVisible();
 }
 
 bool DropDown::choose(QEvent* pEvent)

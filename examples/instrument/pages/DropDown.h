@@ -20,9 +20,9 @@ public:
     /// Closes the list and gives it other entries, none twice.
     void setEntries(std::vector<std::string> entries);
 
-    void open();
+    /// Opens the list on its first page, or closes it where it is open.
+    void turn();
     void close();
-    bool isOpen() const;
 
     /// Takes an event of the page: turns the list's pages, and keeps in mind what was chosen.
     /// @return whether an entry was chosen; the list has closed then

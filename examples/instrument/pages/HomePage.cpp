@@ -2,10 +2,14 @@
 
 #include "InstrumentFrame.h"
 
+#include <algorithm>
+#include <iterator>
+
 bool HomePage::event(QEvent* pEvent)
 {
     const std::string strID = touchedID(pEvent);
-    if (strID != "measure" && strID != "results" && strID != "settings" && strID != "language")
+    const char* ways[] = {"measure", "results", "settings", "language", "about"};
+    if (std::find(std::begin(ways), std::end(ways), strID) == std::end(ways))
         return InstrumentPage::event(pEvent);
     m_pFrame->moveTo(strID, true, true); // each button has the name of its page
     return true;

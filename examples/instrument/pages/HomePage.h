@@ -2,7 +2,7 @@
 
 #include "pages/InstrumentPage.h"
 
-/// The first page: four buttons to the other pages, and the present readings.
+/// The first page: the buttons to the other pages, and the present readings.
 class HomePage : public InstrumentPage
 {
 public:

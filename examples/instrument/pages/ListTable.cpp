@@ -10,17 +10,6 @@ using PANFx::Components::ZELComponent;
 using PANFx::Components::ZELLabel;
 using PANFx::Components::ZELList;
 
-namespace {
-
-ZELCheckButton* boxIn(ZELList* pList, int nRow, int nColumn)
-{
-    return pList == nullptr ? nullptr
-                            : componentAs<ZELCheckButton>(pList->getItemComponent(nRow, nColumn),
-                                                          "ZELCheckButton");
-}
-
-} // namespace
-
 ListTable::ListTable(ZELList* pList)
     : m_pList(pList)
 {
@@ -66,24 +55,27 @@ void ListTable::showFilledRows()
     }
 }
 
+ZELComponent* ListTable::cell(int nRow, int nColumn) const
+{
+    return m_pList == nullptr ? nullptr : m_pList->getItemComponent(nRow, nColumn);
+}
+
 void ListTable::setText(int nRow, int nColumn, const std::string& strText)
 {
-    if (m_pList != nullptr)
-        showText(m_pList->getItemComponent(nRow, nColumn), strText);
+    showText(cell(nRow, nColumn), strText);
 }
 
 void ListTable::setElided(int nColumn)
 {
     for (int nRow = 0; nRow < m_nRows; ++nRow) {
-        if (auto* pLabel =
-                componentAs<ZELLabel>(m_pList->getItemComponent(nRow, nColumn), "ZELLabel"))
+        if (auto* pLabel = componentAs<ZELLabel>(cell(nRow, nColumn), "ZELLabel"))
             pLabel->setElidedText();
     }
 }
 
 void ListTable::setChecked(int nRow, int nColumn, bool bChecked)
 {
-    if (ZELCheckButton* pBox = boxIn(m_pList, nRow, nColumn)) {
+    if (auto* pBox = componentAs<ZELCheckButton>(cell(nRow, nColumn), "ZELCheckButton")) {
         pBox->m_bChecked = bChecked;
         pBox->update();
     }
@@ -91,6 +83,6 @@ void ListTable::setChecked(int nRow, int nColumn, bool bChecked)
 
 bool ListTable::isChecked(int nRow, int nColumn) const
 {
-    const ZELCheckButton* pBox = boxIn(m_pList, nRow, nColumn);
+    const auto* pBox = componentAs<ZELCheckButton>(cell(nRow, nColumn), "ZELCheckButton");
     return pBox != nullptr && pBox->m_bChecked;
 }

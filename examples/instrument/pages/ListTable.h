@@ -24,11 +24,17 @@ public:
     /// The entry in the first row of this page.
     int firstEntry() const;
 
+    /// The entry in a row of this page.
+    std::size_t entry(int nRow) const { return static_cast<std::size_t>(firstEntry() + nRow); }
+
     /// How many rows of this page have an entry.
     int filledRows() const;
 
     /// Shows the rows that have an entry and hides the others.
     void showFilledRows();
+
+    /// A cell, or null.
+    PANFx::Components::ZELComponent* cell(int nRow, int nColumn) const;
 
     void setText(int nRow, int nColumn, const std::string& strText);
     void setElided(int nColumn);

@@ -45,6 +45,10 @@ void ResultsPage::activating()
 {
     InstrumentPage::activating();
     fillFilter();
+    const std::vector<Record> selected = selectedRecords(); // some may be gone
+    m_selected.clear();
+    for (const Record& record : selected)
+        m_selected.insert(record.nID);
     m_list.rewind();
     fillList();
     setDimmed("print", true); // until there is a printer
@@ -62,7 +66,7 @@ bool ResultsPage::event(QEvent* pEvent)
 bool ResultsPage::touch(const std::string& strID)
 {
     if (strID == "filter") {
-        turnFilter();
+        m_filter.turn();
         return true;
     }
     if (!strID.empty() && strID != "filter_names")
@@ -170,14 +174,6 @@ void ResultsPage::sort(int nColumn)
     setQuery(next);
 }
 
-void ResultsPage::turnFilter()
-{
-    if (m_filter.isOpen())
-        m_filter.close();
-    else
-        m_filter.open();
-}
-
 // The first entry of the drop-down stands for all samples.
 void ResultsPage::filter()
 {
@@ -251,11 +247,8 @@ void ResultsPage::fillList()
 void ResultsPage::fillRow(int nRow)
 {
     const Record& record = m_shown[static_cast<std::size_t>(nRow)];
-    const QDate date =
-        QDate::fromString(QString::fromStdString(record.strTime.substr(0, 10)), Qt::ISODate);
     m_list.setText(nRow, timeOfRecord,
-                   shortDateText(date, m_pFrame->settings().strDateOrder) +
-                       record.strTime.substr(10));
+                   shortTimeText(record.strTime, m_pFrame->settings().strDateOrder));
     m_list.setText(nRow, sample, record.strSample);
     const std::vector<Analyser::Channel>& channels = analyser().channels();
     for (std::size_t n = 0; n < channels.size(); ++n)

@@ -33,7 +33,6 @@ private:
     void select(int nRow);
     void selectAll(bool bSelected);
     void sort(int nColumn);
-    void turnFilter();
     void filter();
     void changeUnit();
     void askToClear();

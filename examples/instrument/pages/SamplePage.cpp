@@ -2,15 +2,19 @@
 
 #include "InstrumentFrame.h"
 
+#include "components/lists/ZELComboList.h"
 #include "components/text/ZELLineEdit.h"
 #include "resource/SoundFactory.h"
 
 #include <QKeyEvent>
 
+using PANFx::Components::ZELComboList;
 using PANFx::Components::ZELLineEdit;
 using PANFx::Resource::SoundFactory;
 
 namespace {
+
+const int recentNames = 6; // as many as the drop-down has rows
 
 bool isEnter(QEvent* pEvent)
 {
@@ -26,7 +30,10 @@ SamplePage::SamplePage(const std::string& strID, InstrumentFrame* pFrame)
     : KeyboardPage(strID, pFrame, nameLength)
     , m_pName(component<ZELLineEdit>("name", "ZELLineEdit"))
     , m_pCode(component<ZELLineEdit>("barcode", "ZELLineEdit"))
+    , m_recent(component<ZELComboList>("recent_names", "ZELComboList"))
 {
+    if (auto* pRecent = component<ZELComboList>("recent_names", "ZELComboList"))
+        pRecent->setLineEdit(m_pName);
     if (m_pName != nullptr)
         m_pName->setMaxLength(nameLength);
     if (m_pCode != nullptr)
@@ -43,6 +50,7 @@ void SamplePage::activating()
         m_pCode->setText(m_strCode);
         m_pCode->setShowMode(true);
     }
+    m_recent.setEntries(m_pFrame->records().recentSamples(recentNames));
     KeyboardPage::activating();
 }
 
@@ -56,6 +64,18 @@ void SamplePage::activated()
 bool SamplePage::event(QEvent* pEvent)
 {
     const std::string strID = touchedID(pEvent);
+    if (m_recent.choose(pEvent)) {
+        // the list has filled the field in, but byte by byte: other letters than Latin ones are
+        // right only from here
+        showTypedText(QString::fromStdString(m_recent.chosenText()));
+        return true;
+    }
+    if (strID == "recent") {
+        m_recent.turn();
+        return true;
+    }
+    if (!strID.empty())
+        m_recent.close();
     if (strID == "back")
         m_pFrame->moveBack(true);
     else if (strID == "enter")
@@ -65,6 +85,13 @@ bool SamplePage::event(QEvent* pEvent)
     else
         return KeyboardPage::event(pEvent);
     return true;
+}
+
+// A touch on the ground of the page.
+void SamplePage::mousePressEvent(QMouseEvent* pEvent)
+{
+    m_recent.close();
+    KeyboardPage::mousePressEvent(pEvent);
 }
 
 QString SamplePage::typedText()

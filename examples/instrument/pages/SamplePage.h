@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pages/DropDown.h"
 #include "pages/KeyboardPage.h"
 
 #include <QString>
@@ -8,8 +9,8 @@ namespace PANFx::Components {
 class ZELLineEdit;
 }
 
-/// The name of the next sample, typed on a keyboard, and the code of its label, read by a scanner
-/// that acts as a keyboard.
+/// The name of the next sample, typed on a keyboard or chosen among the last ones, and the code of
+/// its label, read by a scanner that acts as a keyboard.
 class SamplePage : public KeyboardPage
 {
 public:
@@ -24,6 +25,7 @@ protected:
     bool event(QEvent* pEvent) override;
     QString typedText() override;
     void showTypedText(const QString& strText) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
 
 private:
     void takeCode();
@@ -31,5 +33,6 @@ private:
 
     PANFx::Components::ZELLineEdit* m_pName;
     PANFx::Components::ZELLineEdit* m_pCode;
+    DropDown m_recent;
     QString m_strCode; ///< the code that the field shows
 };

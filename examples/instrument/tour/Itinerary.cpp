@@ -7,6 +7,7 @@ Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen)
     : StepList(screen)
     , m_frame(frame)
     , m_typing(frame, screen)
+    , m_lists(frame, screen)
 {
 }
 
@@ -106,7 +107,8 @@ void Itinerary::korean()
     add("korean-clock", "clock", {tap("cancel"), tap("go_clock")});
     add("korean-network", "network", {tap("back"), tap("go_network"), tap("address")});
     add("korean-sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
-    add("korean-language", "language", {tap("back"), goHome(), tap("language")});
+    append(m_lists.stepsIn("korean", m_strLocale));
+    add("korean-language", "language", {goHome(), tap("language")});
 }
 
 void Itinerary::otherLanguages()
@@ -121,6 +123,7 @@ void Itinerary::otherLanguages()
         add(strPrefix + "clock", "clock", {tap("go_clock")});
         add(strPrefix + "network", "network", {tap("back"), tap("go_network"), tap("address")});
         add(strPrefix + "sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
+        append(m_lists.stepsIn(pszName, pszLocale));
     }
     addLanguage("english", "");
 }
@@ -130,7 +133,7 @@ void Itinerary::clearing()
     claim(add("cleared", "results", {tap("results"), tap("clear"), tap("yes")}),
           "nothing is left to clear",
           [this] { return m_frame.records().count({}) == 0 && !m_screen.isEnabled("clear"); });
-    add("end", "home", {tap("back")});
+    add("end", "home", {{[this] { m_frame.records().startAnew(); }, 0}, tap("back")});
 }
 
 std::vector<TourStep> Itinerary::steps()
@@ -143,6 +146,7 @@ std::vector<TourStep> Itinerary::steps()
     calibration();
     saving();
     append(m_typing.steps());
+    append(m_lists.steps());
     korean();
     otherLanguages();
     clearing();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tour/ListItinerary.h"
 #include "tour/StepList.h"
 #include "tour/TypingItinerary.h"
 
@@ -35,4 +36,5 @@ private:
 
     InstrumentFrame& m_frame;
     TypingItinerary m_typing;
+    ListItinerary m_lists;
 };

@@ -4,7 +4,9 @@
 #include "InstrumentFrame.h"
 
 #include "components/ZELComponent.h"
+#include "components/buttons/ZELImageButton.h"
 #include "components/editors/ZELImageEdit.h"
+#include "components/lists/ZELListScroll.h"
 #include "components/text/ZELLineEdit.h"
 #include "events/Timer.h"
 #include "windows/ZELChildWindow.h"
@@ -17,8 +19,10 @@
 
 using PANFx::Components::Timer;
 using PANFx::Components::ZELComponent;
+using PANFx::Components::ZELImageButton;
 using PANFx::Components::ZELImageEdit;
 using PANFx::Components::ZELLineEdit;
+using PANFx::Components::ZELListScroll;
 using PANFx::Windows::ZELChildWindow;
 using PANFx::Windows::ZELPopupWindow;
 
@@ -172,6 +176,10 @@ std::string Screen::text(const std::string& strID)
     ZELComponent* pComponent = find(strID);
     if (auto* pLine = componentAs<ZELLineEdit>(pComponent, "ZELLineEdit"))
         return pLine->text().toStdString();
+    if (auto* pScroll = componentAs<ZELListScroll>(pComponent, "ZELListScroll"))
+        return pScroll->getPageNumbering();
+    if (auto* pButton = componentAs<ZELImageButton>(pComponent, "ZELImageButton"))
+        return pButton->getTitle();
     auto* pEdit = dynamic_cast<ZELImageEdit*>(pComponent);
     return pEdit != nullptr ? pEdit->text() : "";
 }

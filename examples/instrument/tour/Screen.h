@@ -49,7 +49,8 @@ public:
     /// Sends keys as a scanner does that acts as a keyboard, the enter key at the end.
     void scan(const QString& strCode);
 
-    /// What a field holds, UTF-8; of a line edit what was typed or scanned into it.
+    /// What a field holds, UTF-8; of a line edit what was typed or scanned into it. Also the title
+    /// of a button, and the page and total of a page turner.
     std::string text(const std::string& strID);
 
     /// Whether a component is to be seen.
