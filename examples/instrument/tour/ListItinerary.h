@@ -39,6 +39,13 @@ private:
     void addSamples(const std::string& strName, Actions actions, const std::string& strClaim,
                     std::function<bool(SamplesPage&)> isTrue);
 
+    template <class Page>
+    void addOn(const std::string& strPage, const std::string& strName, Actions actions,
+               const std::string& strClaim, std::function<bool(Page&)> isTrue);
+
+    /// The page of the list by its page turner.
+    int pageNow();
+
     /// Whether the list shows what the database has for that page of it, counted from 1.
     bool showsPage(ResultsPage& page, int nPage);
 

@@ -25,6 +25,7 @@ public:
 
 private:
     void goOn(int nMilliseconds);
+    void passOn(int nPostings);
     void proceed();
     void finishStep();
 
