@@ -50,8 +50,20 @@ public:
     virtual void press(const QPoint& place) = 0;
     virtual void release(const QPoint& place) = 0;
 
+    /** Writes other texts into the cells of a list, row by row. */
+    virtual void refill(const std::vector<std::string>& texts) = 0;
+
+    /** Brings up what stands on a tab, counted from 0. */
+    virtual void showTab(int tab) = 0;
+
+    /** Sets the gauge of the page, 0 to 100. */
+    virtual void setPercent(int percent) = 0;
+
     /** Starts to watch for a paint of the window. */
     void expectPaint() { m_painted = false; }
+
+    /** Whether the window has been painted since. */
+    bool wasPainted() const { return m_painted; }
 
     /** Runs the event loop until the window was painted; false when that does not happen. */
     bool waitPainted();
@@ -61,6 +73,9 @@ public:
 
     /** Called when the click of a button has reached its handler, where a candidate has one. */
     std::function<void()> onClick;
+
+    /** Called when the touch of a cell has reached its handler, with the cell's place. */
+    std::function<void(int row, int column)> onCell;
 
 protected:
     virtual QWindow* window() = 0;

@@ -10,20 +10,30 @@ namespace bench {
 /** One widget of a generated page. */
 struct Item
 {
-    enum class Kind { Button, Label, Picture };
+    enum class Kind { Button, Label, Picture, RoundGauge, BarGauge };
 
     Kind kind;
     std::string id;
     std::string title; ///< of buttons and labels
-    std::string file;  ///< of pictures and of buttons that are up
-    std::string down;  ///< of buttons that are pressed
+    std::string file;  ///< of pictures, of buttons that are up, and behind gauges
+    std::string down;  ///< of buttons that are pressed, and what gauges fill with
     QRect place;       ///< in pixels on the 800 by 480 page
+};
+
+/** A part of a page that holds widgets: a row of a list, or what one tab brings up. */
+struct Panel
+{
+    std::string id;
+    QRect place; ///< in pixels on the page; its widgets count from its corner
+    std::vector<Item> items;
 };
 
 struct Page
 {
     std::string name;
     std::vector<Item> items;
+    std::vector<Panel> rows = {}; ///< of a list, all with labels only
+    std::vector<Panel> tabs = {}; ///< of a tab, the first one is up
 };
 
 /** @p count pictures in a grid over the page. */
@@ -31,6 +41,27 @@ Page picturePage(const std::string& name, int count);
 
 /** The common page: of each 60 widgets 24 are buttons, 24 labels and 12 pictures. */
 Page commonPage(const std::string& name, int count);
+
+/** A list of labels, and beside it the two buttons and the label that its pages are turned with. */
+Page listPage(const std::string& name);
+
+/** The texts of the cells of a list's page, row by row. */
+std::vector<std::string> cellTexts(int page);
+
+/** A tab for each count; on it so many widgets, up to 60, in the shares of the common page. */
+Page tabPage(const std::string& name, const std::vector<int>& counts);
+
+/** A page with one gauge. */
+Page gaugePage(const std::string& name, Item::Kind kind);
+
+/** The button of a tab. */
+Item tabButton(int tab);
+
+/** Where the buttons to the page before and after, and the page number between them, stand. */
+QRect scrollPlace(int part);
+
+/** Name of the picture of that size and number. */
+std::string pictureFile(const QSize& size, int index);
 
 /** A page without widgets, for a window to stand on while nothing is measured. */
 Page homePage();
@@ -48,6 +79,15 @@ public:
     static constexpr int stringKeys = 1000;
     static constexpr int pictureCount = 60; ///< different pictures of each size
     static constexpr int styleCount = 4;
+    static constexpr int listRows = 10;
+    static constexpr int listColumns = 6;
+    static constexpr const char* listId = "table";
+    static constexpr const char* tabId = "tabs";
+    static constexpr const char* gaugeId = "gauge";
+    static constexpr QSize discSize{200, 200};
+    static constexpr QSize barSize{400, 40};
+    static constexpr QSize capSize{10, 36}; ///< of each piece that a bar is filled with
+    static constexpr QPoint capOffset{4, 2};
 
     explicit Site(std::string root)
         : m_root(std::move(root))
@@ -59,6 +99,9 @@ public:
 
     /** Writes @p page for all candidates, and for ours once more below the language "kr". */
     void write(const Page& page) const;
+
+    /** Writes a page for the library only, with these components. */
+    void writeComponents(const std::string& page, const std::string& components) const;
 
     /** Writes the style file anew with the first @p count of the four styles. */
     void writeStyles(int count) const;

@@ -12,6 +12,7 @@
 #include <linux/seccomp.h>
 #include <malloc.h>
 #include <spawn.h>
+#include <sstream>
 #include <stdexcept>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
@@ -78,6 +79,17 @@ ChildResult runChild(const std::vector<std::string>& command)
     }
     result.bGood = WIFEXITED(status) && WEXITSTATUS(status) == 0 && !result.output.empty();
     return result;
+}
+
+std::map<std::string, double> figuresOf(const ChildResult& result)
+{
+    std::map<std::string, double> figures;
+    std::istringstream lines(result.bGood ? result.output : std::string());
+    std::string name;
+    double value = 0;
+    while (lines >> name >> value)
+        figures[name] = value;
+    return figures;
 }
 
 EnvironmentVariable::EnvironmentVariable(const char* name, const std::string& value)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,9 @@ struct ChildResult
 
 /** Runs @p command to its end. */
 ChildResult runChild(const std::vector<std::string>& command);
+
+/** What a child has written in lines of "name number"; nothing from a child that failed. */
+std::map<std::string, double> figuresOf(const ChildResult& result);
 
 /** An environment variable that has another value for as long as the object lives. */
 class EnvironmentVariable

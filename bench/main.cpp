@@ -24,7 +24,7 @@ constexpr const char* usage =
     "usage: qtpanfx_bench [--quick] [--only GROUP] [--save-pictures DIR]\n"
     "  --quick          fewer turns, under 20 seconds\n"
     "  --only GROUP     one of: load switch touch image strings log compose typing\n"
-    "                   memory start\n"
+    "                   lists gauges print memory start\n"
     "  --save-pictures  leaves what each candidate painted in DIR\n"
     "Ends with 1 when a measurement is not valid; a missed goal is only marked.\n";
 
@@ -49,7 +49,8 @@ struct Group
 constexpr Group groups[] = {
     {"load", measurePageLoads},  {"switch", measurePageSwitch},   {"touch", measureTouch},
     {"image", measureImageHit},  {"strings", measureStringTable}, {"log", measureLogLine},
-    {"compose", measureCompose}, {"typing", measureTyping},       {"memory", measureMemory},
+    {"compose", measureCompose}, {"typing", measureTyping},       {"lists", measureLists},
+    {"gauges", measureGauges},   {"print", measurePrint},         {"memory", measureMemory},
     {"start", measureStart},
 };
 
@@ -70,7 +71,7 @@ bool readOptions(const std::vector<std::string>& words, Options& options)
         else if (word == "--page")
             options.page = next();
         else if (word == "--memory-pages" || word == "--memory-locale" || word == "--heap" ||
-                 word == "--touch") {
+                 word == "--touch" || word == "--cell-touch" || word == "--print") {
             options.child = word;
             options.childArgument = next();
         } else
@@ -143,6 +144,10 @@ int runChildWork(const Options& options)
         childLocaleCycles(site, std::atoi(options.childArgument.c_str()));
     else if (options.child == "--touch")
         childTouch(site, std::atoi(options.childArgument.c_str()));
+    else if (options.child == "--cell-touch")
+        childCellTouch(site, std::atoi(options.childArgument.c_str()));
+    else if (options.child == "--print")
+        childPrint(site, std::atoi(options.childArgument.c_str()));
     else
         childHeap(site, options.childArgument, options.page);
     return 0;

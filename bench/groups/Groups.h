@@ -27,6 +27,10 @@ void measureStringTable(Run& run);
 void measureLogLine(Run& run);
 void measureCompose(Run& run);
 void measureTyping(Run& run);
+void measureLists(Run& run);
+void measureLongText(Run& run); ///< a part of the lists
+void measureGauges(Run& run);
+void measurePrint(Run& run);
 void measureMemory(Run& run);
 void measureStart(Run& run);
 
@@ -41,6 +45,12 @@ void childLocaleCycles(const Site& site, int styles);
 
 /** Touches the buttons of a common page; writes a line "key click repaint" for each candidate. */
 void childTouch(const Site& site, int turns);
+
+/** Touches a cell of a list; writes a line for each candidate. */
+void childCellTouch(const Site& site, int turns);
+
+/** Prints over a pseudo-terminal; writes lines of nanoseconds and bytes. */
+void childPrint(const Site& site, int turns);
 
 /** Heap of one page of a candidate, built, shown and painted. */
 void childHeap(const Site& site, const std::string& candidate, const std::string& page);

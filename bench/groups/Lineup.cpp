@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -9,9 +10,7 @@ namespace bench {
 
 namespace {
 
-constexpr int channelTolerance = 24;    // of 255
-constexpr double pixelTolerance = 0.02; // share of pixels that may differ by more: text edges
-constexpr double inkAtLeast = 0.2;      // share of pixels that the floor must have painted
+constexpr int channelTolerance = 24; // of 255
 
 int channelDifference(QRgb a, QRgb b)
 {
@@ -34,9 +33,11 @@ double difference(const QImage& a, const QImage& b)
 
 } // namespace
 
-Lineup::Lineup(const Site& site)
+Lineup::Lineup(const Site& site, const std::vector<std::string>& keys)
 {
     for (const Maker& maker : makers()) {
+        if (!keys.empty() && std::find(keys.begin(), keys.end(), maker.key) == keys.end())
+            continue;
         m_entries.push_back({maker.key, maker.name, maker.make(site)});
         m_entries.back().pCandidate->open();
     }
@@ -51,36 +52,73 @@ Candidate& Lineup::candidate(const std::string& key)
     throw std::runtime_error("no candidate " + key);
 }
 
-QImage Lineup::paintedPicture(Candidate& candidate, const std::string& page) const
+QImage Lineup::paintedPicture(Candidate& candidate, const std::string& page,
+                              const Likeness& likeness) const
 {
     candidate.activate();
     candidate.expectPaint();
     candidate.load(page);
-    const QImage picture = candidate.waitPainted() ? candidate.picture() : QImage();
+    bool painted = candidate.waitPainted();
+    if (likeness.change) {
+        candidate.expectPaint();
+        likeness.change(candidate);
+        painted = candidate.waitPainted();
+        settle();
+    }
+    const QImage picture = painted ? candidate.picture() : QImage();
     candidate.unload();
     return picture.convertToFormat(QImage::Format_RGB32);
 }
 
-void Lineup::comparePictures(Table& table, const std::string& page, const std::string& directory)
+void Lineup::comparePictures(Table& table, const std::string& page, const std::string& directory,
+                             const Likeness& likeness)
 {
     QImage floor;
     for (Entry& entry : m_entries) {
-        const QImage picture = paintedPicture(*entry.pCandidate, page);
+        const QImage picture = paintedPicture(*entry.pCandidate, page, likeness);
         if (!directory.empty())
             picture.save(QString::fromStdString(directory + "/" + page + "-" + entry.key + ".png"));
         if (floor.isNull()) {
             floor = picture;
             QImage black(800, 480, QImage::Format_RGB32);
             black.fill(Qt::black);
-            if (difference(floor, black) < inkAtLeast)
+            if (difference(floor, black) < likeness.inkAtLeast)
                 table.fault(entry.name + " painted hardly anything");
             continue;
         }
         const double share = difference(picture, floor);
-        if (share > pixelTolerance)
+        if (share > likeness.mayDiffer)
             table.fault(entry.name + " painted another picture of " + page + ": " +
                         fixed(100 * share, 1) + " % of the pixels differ");
     }
+}
+
+Course loadCourse(const std::string& name, Candidate& candidate, const std::string& page)
+{
+    return {name, [&candidate, page](Watch& watch) {
+                candidate.activate();
+                candidate.expectPaint();
+                watch.start();
+                candidate.load(page);
+                watch.lap();
+                candidate.waitPainted();
+                watch.lap();
+                candidate.unload();
+            }};
+}
+
+Course changeCourse(const std::string& name, Candidate& candidate,
+                    const std::function<void(Candidate&)>& change)
+{
+    return {name, [&candidate, change](Watch& watch) {
+                candidate.activate();
+                candidate.expectPaint();
+                watch.start();
+                change(candidate);
+                candidate.waitPainted();
+                watch.lap();
+                settle();
+            }};
 }
 
 void ratioRows(Table& table, const std::vector<Course>& courses, std::size_t lap, Goal goal)

@@ -97,8 +97,7 @@ void childPageCycles(const Site& site, const std::string& key)
 void childLocaleCycles(const Site& site, int styles)
 {
     site.writeStyles(styles);
-    const std::function<void()> noClicks;
-    PanelFrame frame(noClicks);
+    PanelFrame frame(nullptr);
     frame.moveTo(pictures60, true, true);
     frame.show();
     settle();

@@ -15,20 +15,6 @@ constexpr Goal paintedGoal{1.15};
 constexpr Goal growthGoal{10.5};
 constexpr Goal switchGoal{1.1};
 
-Course loadCourse(const std::string& name, Candidate& candidate, const std::string& page)
-{
-    return {name, [&candidate, page](Watch& watch) {
-                candidate.activate();
-                candidate.expectPaint();
-                watch.start();
-                candidate.load(page);
-                watch.lap();
-                candidate.waitPainted();
-                watch.lap();
-                candidate.unload();
-            }};
-}
-
 void measureLoads(Run& run, Lineup& lineup, const std::string& page, const std::string& title,
                   const Plan& plan, Goal painted)
 {
@@ -60,19 +46,6 @@ void measureGrowth(Run& run, Lineup& lineup, const std::string& small, const std
     run.table.value("QTPANFx", fixed(growth(2), 2), growth(2), growthGoal);
 }
 
-Course switchCourse(const std::string& name, Candidate& candidate)
-{
-    return {name, [&candidate](Watch& watch) {
-                candidate.activate();
-                candidate.expectPaint();
-                watch.start();
-                candidate.switchPage();
-                candidate.waitPainted();
-                watch.lap();
-                settle();
-            }};
-}
-
 void measureSwitch(Run& run, const std::string& title, const std::string& first,
                    const std::string& second)
 {
@@ -81,7 +54,8 @@ void measureSwitch(Run& run, const std::string& title, const std::string& first,
     for (Lineup::Entry& entry : lineup.entries()) {
         entry.pCandidate->keep(first, second);
         settle();
-        courses.push_back(switchCourse(entry.name, *entry.pCandidate));
+        courses.push_back(changeCourse(entry.name, *entry.pCandidate,
+                                       [](Candidate& candidate) { candidate.switchPage(); }));
     }
     alternate(courses, run.bQuick ? Plan{5} : Plan{51});
     run.table.group(title);

@@ -7,7 +7,6 @@
 
 #include <cstdio>
 #include <map>
-#include <sstream>
 
 namespace bench {
 
@@ -111,15 +110,9 @@ void measureTouch(Run& run)
     if (!libraryHasButtons())
         return;
     const EnvironmentVariable silence("LD_PRELOAD", besideOwnPath("qtpanfx_bench_silent_log.so"));
-    const ChildResult result =
-        runChild({ownPath(), "--site", run.site.root(), "--touch", run.bQuick ? "10" : "200"});
-    std::map<std::string, double> values;
-    std::istringstream lines(result.output);
-    std::string key;
-    double value = 0;
-    while (lines >> key >> value)
-        values[key] = value;
-    if (!result.bGood || values.size() != 7) {
+    const std::map<std::string, double> values = figuresOf(
+        runChild({ownPath(), "--site", run.site.root(), "--touch", run.bQuick ? "10" : "200"}));
+    if (values.size() != 7) {
         run.table.fault("the child process for touches failed");
         return;
     }

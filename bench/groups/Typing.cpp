@@ -7,7 +7,6 @@
 #include "groups/Lineup.h"
 #include "peers/PanelFrame.h"
 
-#include "components/ZELComponent.h"
 #include "components/editors/ZELImageEdit.h"
 #include "components/pads/ZELKeyButton.h"
 #include "components/pads/ZELNumPad.h"
@@ -16,7 +15,6 @@
 
 #include <QApplication>
 
-#include <fstream>
 #include <stdexcept>
 #include <string>
 
@@ -59,14 +57,6 @@ std::string key(const std::string& id, const std::string& attributes, int index)
            position(index % 10 * 80, 100 + index / 10 * 48, 80, 48) +
            "<image up=\"p80x48_3.png\" down=\"p80x48_4.png\" dim=\"p80x48_5.png\"/>" +
            "<lang2 title=\"b\" code=\"3131\" index=\"0\"/></" + id + ">\n";
-}
-
-void writePage(const Site& site, const std::string& name, const std::string& components)
-{
-    std::ofstream file(site.layout(name));
-    file << "<Page><Components>\n" << components << "</Components></Page>\n";
-    if (!file.flush())
-        throw std::runtime_error("cannot write " + site.layout(name));
 }
 
 std::string editorsLayout()
@@ -127,24 +117,6 @@ private:
     bool m_painted = false;
 };
 
-PANFx::Windows::ZELChildWindow& currentPage()
-{
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* frame = dynamic_cast<PanelFrame*>(widget))
-            return *frame->getCurrentWindow();
-    }
-    throw std::runtime_error("there is no frame");
-}
-
-template <class Component>
-Component& component(const char* id)
-{
-    auto* found = dynamic_cast<Component*>(currentPage().getSubComponent(id));
-    if (!found)
-        throw std::runtime_error(std::string("the page lacks ") + id);
-    return *found;
-}
-
 /** A touch of the first key until the field shows what it typed. */
 double typed(Candidate& panel, QWidget& target, const std::function<void()>& clear, int turns)
 {
@@ -170,8 +142,8 @@ double typedOnPad(Candidate& panel, int turns)
 {
     panel.load(padPage);
     settle();
-    auto& edit = component<ZELImageEdit>("edit");
-    component<ZELNumPad>("pad").setEdit(&edit);
+    auto& edit = currentFrame().component<ZELImageEdit>("edit");
+    currentFrame().component<ZELNumPad>("pad").setEdit(&edit);
     const double time = typed(
         panel, edit, [&edit] { edit.clear(); }, turns);
     if (edit.text() != "1")
@@ -184,8 +156,8 @@ double typedOnKeyboard(Candidate& panel, int turns)
 {
     panel.load(keyboardPage);
     settle();
-    auto& name = component<ZELLineEdit>("name");
-    auto& first = component<ZELKeyButton>("key0");
+    auto& name = currentFrame().component<ZELLineEdit>("name");
+    auto& first = currentFrame().component<ZELKeyButton>("key0");
     QwertyPadFactory composer;
     composer.setMaxLength(longestText);
     composer.changeLang("en");
@@ -211,16 +183,7 @@ double typedOnKeyboard(Candidate& panel, int turns)
 void measureTypingLoad(Run& run, Candidate& panel, const std::string& page,
                        const std::string& title)
 {
-    std::vector<Course> courses = {{"QTPANFx", [&panel, page](Watch& watch) {
-                                        panel.activate();
-                                        panel.expectPaint();
-                                        watch.start();
-                                        panel.load(page);
-                                        watch.lap();
-                                        panel.waitPainted();
-                                        watch.lap();
-                                        panel.unload();
-                                    }}};
+    std::vector<Course> courses = {loadCourse("QTPANFx", panel, page)};
     alternate(courses, run.bQuick ? Plan{4} : Plan{51});
     run.table.group(title);
     const double live = courses[0].laps[0].median();
@@ -233,9 +196,9 @@ void measureTypingLoad(Run& run, Candidate& panel, const std::string& page,
 
 void measureTyping(Run& run)
 {
-    writePage(run.site, editorsPage, editorsLayout());
-    writePage(run.site, padPage, padLayout());
-    writePage(run.site, keyboardPage, keyboardLayout());
+    run.site.writeComponents(editorsPage, editorsLayout());
+    run.site.writeComponents(padPage, padLayout());
+    run.site.writeComponents(keyboardPage, keyboardLayout());
     const std::unique_ptr<Candidate> panel = maker("ours").make(run.site);
     panel->open();
     measureTypingLoad(run, *panel, editorsPage, "Page load, 20 fields of five kinds");

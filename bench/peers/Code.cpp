@@ -69,7 +69,32 @@ public:
         m_pHidden->setVisible(false);
     }
 
+    void refill(const std::vector<std::string>& texts) override
+    {
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            m_cells[i]->m_text = QString::fromStdString(texts[i]);
+            m_cells[i]->update();
+        }
+    }
+
+    void showTab(int tab) override
+    {
+        m_tabs[m_tab].pButton->setPressed(false);
+        m_tabs[m_tab].pPage->hide();
+        m_tab = static_cast<std::size_t>(tab);
+        m_tabs[m_tab].pButton->setPressed(true);
+        m_tabs[m_tab].pPage->show();
+    }
+
+    void setPercent(int percent) override { m_pGauge->setPercent(percent); }
+
 private:
+    struct Tab
+    {
+        ButtonWidget* pButton;
+        QWidget* pPage;
+    };
+
     QWidget* build(const std::string& page)
     {
         pugi::xml_document document;
@@ -77,11 +102,19 @@ private:
             throw std::runtime_error("cannot read the layout " + page);
         auto* pPage = new QWidget(m_pWindow.get());
         pPage->setGeometry(0, 0, 800, 480);
-        for (const pugi::xml_node& group : document.document_element().child("Components")) {
-            for (const pugi::xml_node& node : group)
-                buildWidget(pPage, group.name(), node);
-        }
+        m_cells.clear();
+        m_tabs.clear();
+        m_tab = 0;
+        buildGroups(pPage, document.document_element().child("Components"));
         return pPage;
+    }
+
+    void buildGroups(QWidget* pParent, const pugi::xml_node& groups)
+    {
+        for (const pugi::xml_node& group : groups) {
+            for (const pugi::xml_node& node : group)
+                buildWidget(pParent, group.name(), node);
+        }
     }
 
     void buildWidget(QWidget* pPage, const char* kind, const pugi::xml_node& node)
@@ -94,9 +127,70 @@ private:
             auto* pLabel = new TextWidget(pPage);
             pLabel->m_text = QString::fromUtf8(node.attribute("title").value());
             pLabel->setGeometry(placeOf(node.child("position")));
-        } else {
+        } else if (std::strcmp(kind, "button") == 0) {
             buildButton(pPage, node);
+        } else {
+            buildPart(pPage, kind, node);
         }
+    }
+
+    void buildPart(QWidget* pParent, const char* kind, const pugi::xml_node& node)
+    {
+        if (std::strcmp(kind, "listscroll") == 0)
+            buildScroll(pParent, node);
+        else if (std::strcmp(kind, "tabbutton") == 0)
+            buildTabButton(pParent, node);
+        else if (std::strcmp(kind, "roundprogress") == 0)
+            m_pGauge = buildGauge(new RoundWidget(pParent), node, "image", "file", "round", "file");
+        else if (std::strcmp(kind, "imageprogress") == 0)
+            m_pGauge = buildGauge(new BarWidget(pParent), node, "image", "bg", "image", "mid");
+        else
+            buildContainer(pParent, kind, node);
+    }
+
+    // a list, a row of it, a tab, or a page of it
+    void buildContainer(QWidget* pParent, const char* kind, const pugi::xml_node& node)
+    {
+        auto* pContainer = new QWidget(pParent);
+        pContainer->setGeometry(placeOf(node.child("position")));
+        buildGroups(pContainer, node);
+        if (std::strcmp(kind, "listitem") == 0) {
+            for (QObject* pCell : pContainer->children())
+                m_cells.push_back(static_cast<TextWidget*>(pCell));
+        } else if (std::strcmp(kind, "tabpage") == 0) {
+            pContainer->setVisible(m_tabs.size() == 1);
+            m_tabs.back().pPage = pContainer;
+        }
+    }
+
+    void buildScroll(QWidget* pParent, const pugi::xml_node& node)
+    {
+        for (const char* name : {"upbtn", "downbtn"}) {
+            auto* pButton = new ButtonWidget(pParent);
+            pButton->m_pUp = picture(node.child(name).attribute("up"));
+            pButton->m_pDown = picture(node.child(name).attribute("down"));
+            pButton->setGeometry(placeOf(node.child(name)));
+        }
+        auto* pLabel = new TextWidget(pParent);
+        pLabel->m_text = QStringLiteral("1/1");
+        pLabel->setGeometry(placeOf(node.child("page")));
+    }
+
+    void buildTabButton(QWidget* pParent, const pugi::xml_node& node)
+    {
+        auto* pButton = new ButtonWidget(pParent);
+        fillButton(*pButton, node);
+        pButton->setPressed(m_tabs.empty());
+        m_tabs.push_back({pButton, nullptr});
+    }
+
+    GaugeWidget* buildGauge(GaugeWidget* pGauge, const pugi::xml_node& node, const char* back,
+                            const char* backFile, const char* fill, const char* fillFile)
+    {
+        pGauge->m_pBack = picture(node.child(back).attribute(backFile));
+        pGauge->m_pFill = picture(node.child(fill).attribute(fillFile));
+        pGauge->setGeometry(placeOf(node.child("position")));
+        return pGauge;
     }
 
     template <typename Button>
@@ -130,6 +224,10 @@ private:
     std::unique_ptr<QWidget> m_pWindow = makeWindow();
     QWidget* m_pPage = nullptr;
     QWidget* m_pHidden = nullptr;
+    std::vector<TextWidget*> m_cells;
+    std::vector<Tab> m_tabs;
+    std::size_t m_tab = 0;
+    GaugeWidget* m_pGauge = nullptr;
 };
 
 } // namespace

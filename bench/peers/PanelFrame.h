@@ -2,9 +2,15 @@
 
 #include "Candidate.h"
 
+#include "components/ZELComponent.h"
 #include "events/EventNumbers.h"
+#include "events/ZELListEvent.h"
 #include "windows/ZELChildWindow.h"
 #include "windows/ZELMainFrame.h"
+
+#include <QApplication>
+
+#include <stdexcept>
 
 namespace bench {
 
@@ -12,36 +18,40 @@ namespace bench {
 class PanelPage : public PANFx::Windows::ZELChildWindow
 {
 public:
-    PanelPage(std::string strID, QWidget* pParent, const std::function<void()>& onClick)
+    PanelPage(std::string strID, QWidget* pParent, const Candidate* pPanel)
         : ZELChildWindow(std::move(strID), pParent, std::string())
-        , m_onClick(onClick)
+        , m_pPanel(pPanel)
     {
     }
 
     bool event(QEvent* pEvent) override
     {
-        if (pEvent->type() == EVENT_MOUSE_UP && m_onClick)
-            m_onClick();
+        if (pEvent->type() == EVENT_MOUSE_UP && m_pPanel && m_pPanel->onClick)
+            m_pPanel->onClick();
+        if (pEvent->type() == EVENT_LIST_ITEM_CLICK && m_pPanel && m_pPanel->onCell) {
+            const auto& click = static_cast<const ZELListEvent&>(*pEvent);
+            m_pPanel->onCell(click.m_nRow, click.m_nColumn);
+        }
         return ZELChildWindow::event(pEvent);
     }
 
 private:
-    const std::function<void()>& m_onClick;
+    const Candidate* m_pPanel;
 };
 
 /** An application's frame in its smallest form: each id is a page of that name. */
 class PanelFrame : public PANFx::Windows::ZELMainFrame
 {
 public:
-    /** @param onClick is called when a page gets a click; it must outlive the frame */
-    explicit PanelFrame(const std::function<void()>& onClick)
-        : m_onClick(onClick)
+    /** @param pPanel is told what pages get, unless it is null; it must outlive the frame */
+    explicit PanelFrame(const Candidate* pPanel)
+        : m_pPanel(pPanel)
     {
     }
 
     PANFx::Windows::ZELChildWindow* createChildWindow(std::string strID) override
     {
-        return new PanelPage(std::move(strID), this, m_onClick);
+        return new PanelPage(std::move(strID), this, m_pPanel);
     }
 
     /**
@@ -66,8 +76,28 @@ public:
         settle();
     }
 
+    /** A component of the page on screen. */
+    template <class Component>
+    Component& component(const std::string& id)
+    {
+        auto* found = dynamic_cast<Component*>(getCurrentWindow()->getSubComponent(id));
+        if (!found)
+            throw std::runtime_error("the page lacks " + id);
+        return *found;
+    }
+
 private:
-    const std::function<void()>& m_onClick;
+    const Candidate* m_pPanel;
 };
+
+/** The frame of the one open panel. */
+inline PanelFrame& currentFrame()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* frame = dynamic_cast<PanelFrame*>(widget))
+            return *frame;
+    }
+    throw std::runtime_error("there is no frame");
+}
 
 } // namespace bench

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace bench {
 
 const QPixmap* PictureCache::get(const std::string& path)
@@ -52,21 +54,60 @@ void ButtonWidget::paintEvent(QPaintEvent*)
     paintButton(*this, m_bPressed ? *m_pDown : *m_pUp, m_title);
 }
 
+void ButtonWidget::setPressed(bool pressed)
+{
+    m_bPressed = pressed;
+    update();
+}
+
 void ButtonWidget::mousePressEvent(QMouseEvent*)
 {
-    m_bPressed = true;
-    update();
+    setPressed(true);
 }
 
 void ButtonWidget::mouseReleaseEvent(QMouseEvent*)
 {
-    m_bPressed = false;
-    update();
+    setPressed(false);
 }
 
 void QtButtonWidget::paintEvent(QPaintEvent*)
 {
     paintButton(*this, isDown() ? *m_pDown : *m_pUp, m_title);
+}
+
+void GaugeWidget::setPercent(int percent)
+{
+    m_percent = percent;
+    update();
+}
+
+void RoundWidget::paintEvent(QPaintEvent*)
+{
+    constexpr int sixteenths = 16;
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, *m_pBack);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(*m_pFill));
+    painter.drawPie(rect(), 90 * sixteenths, -360 * sixteenths * m_percent / 100);
+}
+
+void BarWidget::paintEvent(QPaintEvent*)
+{
+    const int left = Site::capOffset.x();
+    const int top = Site::capOffset.y();
+    const int cap = m_pFill->width();
+    const int fill = (width() - 2 * left) * m_percent / 100;
+    const int between = std::max(fill - 2 * cap, 0);
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, *m_pBack);
+    if (fill > 0) {
+        painter.drawPixmap(left, top, *m_pFill);
+        painter.drawPixmap(QRect(left + cap, top, between, m_pFill->height()), *m_pFill);
+        painter.drawPixmap(left + cap + between, top, *m_pFill);
+    }
+    painter.setFont(bodyFont());
+    painter.setPen(Qt::white);
+    painter.drawText(rect(), Qt::AlignCenter, QString::number(m_percent) + QLatin1Char('%'));
 }
 
 } // namespace bench

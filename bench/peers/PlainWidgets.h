@@ -58,6 +58,8 @@ public:
     const QPixmap* m_pDown = nullptr;
     QString m_title;
 
+    void setPressed(bool pressed);
+
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
@@ -76,6 +78,41 @@ public:
     const QPixmap* m_pUp = nullptr;
     const QPixmap* m_pDown = nullptr;
     QString m_title;
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+};
+
+/** Draws a picture and fills it with another one by percent. */
+class GaugeWidget : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    const QPixmap* m_pBack = nullptr;
+    const QPixmap* m_pFill = nullptr;
+
+    void setPercent(int percent);
+
+protected:
+    int m_percent = 0;
+};
+
+/** A pie of the second picture that grows clockwise from the top, without a mask. */
+class RoundWidget : public GaugeWidget
+{
+public:
+    using GaugeWidget::GaugeWidget;
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+};
+
+/** A bar of two caps and what is stretched between them, and the number over it. */
+class BarWidget : public GaugeWidget
+{
+public:
+    using GaugeWidget::GaugeWidget;
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;

@@ -3,6 +3,9 @@
 
 #include <QDynamicPropertyChangeEvent>
 #include <QFile>
+#include <QProgressBar>
+#include <QTabWidget>
+#include <QTableWidget>
 #include <QUiLoader>
 #include <QVariant>
 
@@ -138,6 +141,22 @@ public:
         m_pHidden->hide();
     }
 
+    void refill(const std::vector<std::string>& texts) override
+    {
+        auto* pTable = m_pPage->findChild<QTableWidget*>();
+        std::size_t i = 0;
+        for (int row = 0; row < Site::listRows; ++row) {
+            for (int column = 0; column < Site::listColumns; ++column)
+                pTable->item(row, column)->setText(QString::fromStdString(texts[i++]));
+        }
+    }
+
+    void showTab(int tab) override { m_pPage->findChild<QTabWidget*>()->setCurrentIndex(tab); }
+    void setPercent(int percent) override
+    {
+        m_pPage->findChild<QProgressBar*>()->setValue(percent);
+    }
+
 private:
     QWidget* build(const std::string& page)
     {
@@ -147,6 +166,9 @@ private:
         QWidget* pPage = m_loader.load(&file, m_pWindow.get());
         if (!pPage)
             throw std::runtime_error("cannot load the form " + page);
+        if (auto* pTable = onCell ? pPage->findChild<QTableWidget*>() : nullptr)
+            QObject::connect(pTable, &QTableWidget::cellClicked, pTable,
+                             [this](int row, int column) { onCell(row, column); });
         return pPage;
     }
 

@@ -82,6 +82,18 @@ public:
         m_pHidden->setVisible(false);
     }
 
+    void refill(const std::vector<std::string>& texts) override
+    {
+        QStringList list;
+        list.reserve(static_cast<int>(texts.size()));
+        for (const std::string& text : texts)
+            list.append(QString::fromStdString(text));
+        m_pPage->setProperty("texts", list);
+    }
+
+    void showTab(int tab) override { m_pPage->setProperty("tab", tab); }
+    void setPercent(int percent) override { m_pPage->setProperty("percent", percent); }
+
     void press(const QPoint& place) override
     {
         sendMouse(&m_window, QEvent::MouseButtonPress, place, m_window.position() + place,
@@ -92,12 +104,23 @@ public:
     {
         sendMouse(&m_window, QEvent::MouseButtonRelease, place, m_window.position() + place,
                   Qt::NoButton);
+        if (onCell)
+            tellCell();
     }
 
 protected:
     QWindow* window() override { return &m_window; }
 
 private:
+    // the page's own handler, which has run by now, has left the cell's number there
+    void tellCell()
+    {
+        const int cell = m_pPage->property("touched").toInt();
+        m_pPage->setProperty("touched", -1);
+        if (cell >= 0)
+            onCell(cell / Site::listColumns, cell % Site::listColumns);
+    }
+
     // An engine keeps the types that it has loaded, and trimming does not drop those with bindings
     // on every version of Qt. So a page that is to come from the disk gets an engine that does not
     // know it; what any earlier page of an application would have loaded is loaded here.
