@@ -82,7 +82,9 @@ void Site::writePictures(const QSize& size) const
         shade.setColorAt(0, QColor::fromHsv(i * 360 / pictureCount, 200, 255));
         shade.setColorAt(1, QColor::fromHsv(i * 360 / pictureCount, 255, 90));
         painter.setBrush(shade);
-        painter.drawRoundedRect(QRectF(QPointF(0.5, 0.5), size - QSize(1, 1)), 6, 6);
+        const QRectF shape(QPointF(0.5, 0.5), size - QSize(1, 1));
+        const double corner = size == discSize ? size.width() / 2.0 : 6;
+        painter.drawRoundedRect(shape, corner, corner);
         painter.end();
         const std::string file = picture(pictureFile(size, i));
         if (!image.save(QString::fromStdString(file)))

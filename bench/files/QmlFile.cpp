@@ -11,11 +11,13 @@ std::string placed(const QRect& place)
            "; height: " + std::to_string(place.height());
 }
 
-std::string textItem(const std::string& place, const std::string& title, const char* alignment)
+std::string textItem(const std::string& place, const std::string& title, const char* alignment,
+                     const std::string& child = "")
 {
     return "Text { " + place + "; text: " + title + "; color: \"white\"; font.family: \"" +
            Site::fontFamily + "\"; font.pointSize: " + std::to_string(Site::pointSize) +
-           "; verticalAlignment: Text.AlignVCenter; horizontalAlignment: " + alignment + " }";
+           "; verticalAlignment: Text.AlignVCenter; horizontalAlignment: " + alignment + child +
+           " }";
 }
 
 std::string url(const Site& site, const std::string& file)
@@ -103,11 +105,10 @@ std::string list(const Site& site, const Page& page)
         "\n    delegate: Row { id: row; property int number: index\n"
         "      Repeater { model: " +
         columns + "\n        " +
-        textItem(size +
-                     "; MouseArea { anchors.fill: parent; "
-                     "onClicked: page.touched = row.number * " +
-                     columns + " + index }",
-                 "page.texts[row.number * " + columns + " + index]", "Text.AlignLeft") +
+        textItem(size, "page.texts[row.number * " + columns + " + index]", "Text.AlignLeft",
+                 "\n        MouseArea { anchors.fill: parent; "
+                 "onClicked: page.touched = row.number * " +
+                     columns + " + index }") +
         "\n      }\n    }\n  }\n";
     for (const int part : {0, 2}) {
         const std::string picture = pictureFile(scrollPlace(part).size(), part);

@@ -4,6 +4,7 @@
 #include "common/tamfx/Attribute.h"
 #include "common/tamfx/Node.h"
 #include "components/SubComponents.h"
+#include "components/lists/LineBreaker.h"
 #include "components/lists/ZELListScroll.h"
 #include "components/support/ComponentsNode.h"
 #include "components/support/LayoutFont.h"
@@ -32,26 +33,12 @@ namespace {
 
 constexpr int titleFlags = Qt::TextWordWrap | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int textFlags = Qt::TextWordWrap | Qt::AlignTop | Qt::AlignLeft;
-constexpr int chineseUnit = 2; // characters
 
 const QLatin1String firstLineMark("||");
 
 int lineHeight(const Font& font)
 {
     return QFontMetrics(*font.m_pFont).height();
-}
-
-// What a line is made of and can be broken between: words, and in Chinese, which has no blanks,
-// what goes up to the first blank and then two characters at a time.
-QStringList unitsOf(const QString& paragraph, bool chinese)
-{
-    if (!chinese)
-        return paragraph.split(QLatin1Char(' '));
-    int place = static_cast<int>(paragraph.indexOf(QLatin1Char(' '))) + 1;
-    QStringList units{paragraph.left(place)};
-    for (; place < paragraph.size(); place += chineseUnit)
-        units.append(paragraph.mid(place, chineseUnit));
-    return units;
 }
 
 } // namespace
@@ -140,12 +127,7 @@ void ZELTextBoard::countLines()
 void ZELTextBoard::setText(std::string strText)
 {
     m_strText = std::move(strText);
-    m_lstLines.clear();
-    const bool chinese = Resource::ZELResourceMgr::getInstance()->m_strLocale == "chn";
-    const QStringList paragraphs = QString::fromUtf8(m_strText.c_str()).split(QLatin1Char('\n'));
-    for (const QString& paragraph : paragraphs)
-        addParagraph(paragraph, chinese);
-
+    breakText(QString::fromUtf8(m_strText.c_str()).split(QLatin1Char('\n')));
     m_nTotalPage = countPages();
     m_nNowPage = 1;
     if (isPartOf(this, m_pScroll)) {
@@ -158,30 +140,23 @@ void ZELTextBoard::setText(std::string strText)
 }
 
 // The first line of a paragraph has the whole width of the board, the others the width less the
-// indent. A unit that is too long for a line is not cut.
-void ZELTextBoard::addParagraph(const QString& strParagraph, bool bChinese)
+// indent.
+void ZELTextBoard::breakText(const QStringList& lstParagraphs)
 {
+    m_lstLines.clear();
     if (!m_pFont) {
-        m_lstLines.append(strParagraph);
+        m_lstLines = lstParagraphs;
         return;
     }
-    const QFontMetrics metrics(*m_pFont->m_pFont);
-    const QString separator = bChinese ? QString() : QStringLiteral(" ");
-    int allowance = m_nIndent;
-    QString line;
-    const auto endLine = [&] { m_lstLines.append(allowance >= 1 ? firstLineMark + line : line); };
-    const QStringList units = unitsOf(strParagraph, bChinese);
-    for (const QString& unit : units) {
-        const int available = m_rcBoard.width() - m_nIndent + allowance;
-        if (metrics.horizontalAdvance(line + unit) <= available) {
-            line += unit + separator;
-            continue;
-        }
-        endLine();
-        line = (unit.startsWith(QLatin1Char(' ')) ? unit.mid(1) : unit) + separator;
-        allowance = 0;
+    const bool chinese = Resource::ZELResourceMgr::getInstance()->m_strLocale == "chn";
+    LineBreaker breaker(*m_pFont->m_pFont, chinese);
+    for (const QString& paragraph : lstParagraphs) {
+        QStringList lines =
+            breaker.linesOf(paragraph, m_rcBoard.width(), m_rcBoard.width() - m_nIndent);
+        if (m_nIndent >= 1)
+            lines.first().prepend(firstLineMark);
+        m_lstLines += lines;
     }
-    endLine();
 }
 
 int ZELTextBoard::countPages()

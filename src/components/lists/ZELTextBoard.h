@@ -76,7 +76,7 @@ private:
     void reset();
     void readBoard(TAMFx::Common::Xml::Node* pLayout);
     void countLines();
-    void addParagraph(const QString& strParagraph, bool bChinese);
+    void breakText(const QStringList& lstParagraphs);
     int countPages();
     void paintLines(QPainter& painter, long long nFirst, long long nLast, int nRow) const;
 
