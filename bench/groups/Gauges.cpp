@@ -17,11 +17,12 @@ constexpr const char* twoFullTabs = "tabs60";
 constexpr const char* roundPage = "round";
 constexpr const char* barPage = "bar";
 constexpr int steps = 101;
+const Likeness likeTabs{0.2, 0.003}; // less than the labels
 
 void measureTabLoad(Run& run)
 {
     Lineup lineup(run.site);
-    lineup.comparePictures(run.table, oneFullTab, run.pictures);
+    lineup.comparePictures(run.table, oneFullTab, run.pictures, likeTabs);
     std::vector<Course> courses;
     for (Lineup::Entry& entry : lineup.entries())
         courses.push_back(loadCourse(entry.name, *entry.pCandidate, oneFullTab));
@@ -35,7 +36,7 @@ void measureTabLoad(Run& run)
 void measureTabSwitch(Run& run)
 {
     Lineup lineup(run.site, {"code", "ours", "classes", "plain", "qml-memory"});
-    Likeness otherTab;
+    Likeness otherTab = likeTabs;
     otherTab.change = [](Candidate& candidate) { candidate.showTab(1); };
     lineup.comparePictures(run.table, twoFullTabs, {}, otherTab);
     std::vector<int> tabs(lineup.entries().size(), 0);

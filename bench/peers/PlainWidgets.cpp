@@ -102,6 +102,7 @@ void BarWidget::paintEvent(QPaintEvent*)
     painter.drawPixmap(0, 0, *m_pBack);
     if (fill > 0) {
         painter.drawPixmap(left, top, *m_pFill);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform); // as the library draws it
         painter.drawPixmap(QRect(left + cap, top, between, m_pFill->height()), *m_pFill);
         painter.drawPixmap(left + cap + between, top, *m_pFill);
     }
