@@ -153,29 +153,17 @@ std::string scroll(const Site& site)
            itemWidget(site, {Item::Kind::Label, "number", "1/1", {}, {}, scrollPlace(1)}, false);
 }
 
-// what stands on a tab does not get the window's own colour for texts
-std::string whiteTexts()
-{
-    std::string text = "   <property name=\"palette\"><palette>";
-    for (const char* group : {"active", "inactive", "disabled"})
-        text += std::string("<") + group +
-                "><colorrole role=\"WindowText\"><brush brushstyle=\"SolidPattern\"><color>"
-                "<red>255</red><green>255</green><blue>255</blue></color></brush></colorrole></" +
-                group + ">";
-    return text + "</palette></property>\n";
-}
-
-// its bar looks like the buttons of the others
+// Its bar looks like the buttons of the others. The labels on it would not be white by themselves.
 std::string tabs(const Site& site, const Page& page, bool customClasses)
 {
     const Item button = tabButton(0);
     const int below = page.tabs[0].place.top() - button.place.height();
     std::string pages;
     for (std::size_t i = 0; i < page.tabs.size(); ++i)
-        pages += widget("QWidget", page.tabs[i].id,
-                        "   <attribute name=\"title\">" +
-                            text(tabButton(static_cast<int>(i)).title) + "</attribute>\n" +
-                            whiteTexts() + widgets(site, page.tabs[i].items, customClasses));
+        pages +=
+            widget("QWidget", page.tabs[i].id,
+                   "   <attribute name=\"title\">" + text(tabButton(static_cast<int>(i)).title) +
+                       "</attribute>\n" + widgets(site, page.tabs[i].items, customClasses));
     return widget("QTabWidget", Site::tabId,
                   geometry(QRect(0, 0, 800, 480)) + font() +
                       textProperty("styleSheet",
@@ -185,7 +173,7 @@ std::string tabs(const Site& site, const Page& page, bool customClasses)
                                        "px;height:" + std::to_string(button.place.height()) +
                                        "px;margin:0 0 " + std::to_string(below) +
                                        "px 0;padding:0}QTabBar::tab:selected{border-image:url(" +
-                                       site.picture(button.down) + ")}") +
+                                       site.picture(button.down) + ")}QLabel{color:white}") +
                       pages);
 }
 
