@@ -22,7 +22,7 @@ constexpr const char* pageName = "board";
 constexpr const char* boardId = "text";
 constexpr int boardWidth = 600;
 constexpr int paragraphWords = 80;
-constexpr double growthTolerance = 1.15;
+constexpr double growthTolerance = 1.5;
 
 /** The library's board with its lines shown. */
 class Board : public ZELTextBoard
