@@ -4,13 +4,15 @@
 #include "print/SerialLine.h"
 
 #include <cerrno>
-#include <unistd.h>
 #include <utility>
 
 // The class's data and its way to the printer; what is sent as a print job is in
 // ImagePrintJob.cpp.
 
+using PANFx::Print::closeLine;
 using PANFx::Print::openLine;
+using PANFx::Print::pauseMicroseconds;
+using PANFx::Print::pauseSeconds;
 using PANFx::Print::readBytes;
 using PANFx::Print::waitForBytes;
 using PANFx::Print::writeBytes;
@@ -41,13 +43,13 @@ bool isBlocked(int written)
 void waitForFreeSpace(int free)
 {
     if (free <= 2048)
-        ::sleep(10);
+        pauseSeconds(10);
     if (free >= 2048 && free <= 4096)
-        ::sleep(8);
+        pauseSeconds(8);
     if (free >= 4096 && free <= 10240)
-        ::sleep(4);
+        pauseSeconds(4);
     if (free >= 10240 && free <= 15360)
-        ::usleep(50000);
+        pauseMicroseconds(50000);
 }
 
 unsigned char byteOf(char byte)
@@ -110,12 +112,13 @@ int ImagePrint::initPrinter(termios* /*settings*/)
 void ImagePrint::deInitPrinter(int fd, termios* /*settings*/)
 {
     if (fd >= 1)
-        ::close(fd);
+        closeLine(fd);
 }
 
 int ImagePrint::uart_write_byte(int fd, unsigned char byte)
 {
-    return static_cast<int>(::write(fd, &byte, 1));
+    const char data = static_cast<char>(byte);
+    return writeBytes(fd, &data, 1);
 }
 
 int ImagePrint::uart_write(int fd, const char* data, int length)
@@ -252,7 +255,7 @@ int ImagePrint::checkPrinterRxBuf()
     }
     const int ret = sendCmd2Printer(fd, bufferRequest, sizeof bufferRequest, answer, answerSize, 2);
     if (fd != 0)
-        ::close(fd);
+        closeLine(fd);
     if (ret != 1)
         return -1;
     const int free = bufferSize - (byteOf(answer[1]) * 256 + byteOf(answer[0]));
@@ -270,6 +273,6 @@ int ImagePrint::clearPrintBuffer()
     for (const unsigned char byte : resetAndClear)
         uart_write_byte(fd, byte);
     if (fd != 0)
-        ::close(fd);
+        closeLine(fd);
     return 0;
 }

@@ -27,8 +27,9 @@ struct termios;
  * "@" line, and so is the plain line 0, or 8 in print mode 2. The paper begins with 32 blank rows,
  * and the last line of the text is not printed: end the text in a line feed.
  *
- * No state of the connection is kept and no thread is started. Each operation that talks to the
- * printer opens the port, works on the caller's thread, and closes it. Nothing is thrown: results
+ * No state of the connection is kept and no thread is started: everything runs on the caller's
+ * thread. Operations that talk to the printer and take no descriptor open the port and close it;
+ * those with a descriptor work on a port that initPrinter() has opened. Nothing is thrown: results
  * and log lines tell of failures. Only CancelPrint() may be called from another thread.
  */
 class QTPANFX_EXPORT ImagePrint
@@ -56,8 +57,9 @@ public:
     void setPrintMode(int mode);
 
     /**
-     * Asks a running job to stop; it looks before it opens the port, before the first band and
-     * before each further one. A job that begins forgets what was asked before.
+     * Asks a running job to stop. It looks before it opens the port, behind the bytes that start
+     * a job, and before each band; a band that has begun goes out whole. printImageString() forgets
+     * what was asked before it, Printer_BitImage() called by itself does not.
      */
     void CancelPrint();
 
@@ -72,8 +74,8 @@ public:
      * Prints the image's first 384 columns: dark pixels become dots. Rows behind the last whole
      * band of 24 are not sent. The dots are saved to "/tmp/print.jpg" too, dots in white.
      * @param lines only named in the log
-     * @return 0 done, or cancelled before the first band; -1 on a failure, when the printer is not
-     *         ready, when cancelled later, and, with an error line, for a narrower image
+     * @return 0 done, or cancelled before the file is saved; -1 on a failure, when the printer is
+     *         not ready, when cancelled after that, and, with an error line, for a narrower image
      */
     int Printer_BitImage(QImage& image, int lines);
 

@@ -2,6 +2,7 @@
 #include "print/ImagePrint.h"
 #include "print/PrintDots.h"
 #include "print/ReportImage.h"
+#include "print/SerialLine.h"
 
 #include <QFile>
 #include <QImage>
@@ -9,13 +10,13 @@
 
 #include <array>
 #include <cstddef>
-#include <unistd.h>
 
 // What a print job sends; the way to the printer is in ImagePrint.cpp.
 
 namespace {
 
 using PANFx::Print::bandRows;
+using PANFx::Print::closeLine;
 using PANFx::Print::paperWidth;
 
 constexpr unsigned char jobStart[] = {0x1B, 0x40, 0x1B, 0x33, bandRows};
@@ -33,7 +34,7 @@ void send(ImagePrint& printer, int fd, const unsigned char (&bytes)[size])
 
 void pauseBehindByte(int number)
 {
-    ::usleep(number % 2048 == 2047 ? 500000 : 1);
+    PANFx::Print::pauseMicroseconds(number % 2048 == 2047 ? 500000 : 1);
 }
 
 void saveCopy(const QImage& dots)
@@ -81,7 +82,7 @@ int ImagePrint::Printer_BitImage(QImage& image, int lines)
     send(*this, fd, jobStart);
     if (m_bCancel) {
         m_logger.WriteDebug("[%s] stop", "Printer_BitImage");
-        ::close(fd);
+        closeLine(fd);
         return 0;
     }
     saveCopy(dots);
@@ -95,7 +96,7 @@ int ImagePrint::sendBands(int fd, const QImage& dots)
         if (m_bCancel || checkStatusPrinter(fd) < 0)
             return stopBands(fd);
         if (!sendBand(fd, dots, band)) {
-            ::close(fd);
+            closeLine(fd);
             clearPrintBuffer();
             m_logger.WriteDebug("[%s] nreturn -1", "Printer_BitImage");
             return -1;
@@ -103,7 +104,7 @@ int ImagePrint::sendBands(int fd, const QImage& dots)
     }
     send(*this, fd, jobEnd);
     if (fd != 0)
-        ::close(fd);
+        closeLine(fd);
     return 0;
 }
 
@@ -127,7 +128,7 @@ bool ImagePrint::sendBand(int fd, const QImage& dots, int band)
 int ImagePrint::stopBands(int fd)
 {
     send(*this, fd, jobEnd);
-    ::close(fd);
+    closeLine(fd);
     clearPrintBuffer();
     m_logger.WriteDebug("[%s] stop or checkstatus error", "Printer_BitImage");
     return -1;

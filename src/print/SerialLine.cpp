@@ -58,6 +58,11 @@ int readBytes(int fd, char* buffer, int size)
     return static_cast<int>(::read(fd, buffer, static_cast<std::size_t>(size)));
 }
 
+void closeLine(int fd)
+{
+    ::close(fd);
+}
+
 int waitForBytes(int fd)
 {
     if (fd < 0 || fd >= FD_SETSIZE) {
@@ -69,6 +74,16 @@ int waitForBytes(int fd)
     FD_SET(fd, &readable);
     timeval timeOut{0, waitMicroseconds};
     return ::select(fd + 1, &readable, nullptr, nullptr, &timeOut);
+}
+
+void pauseSeconds(unsigned seconds)
+{
+    ::sleep(seconds);
+}
+
+void pauseMicroseconds(unsigned microseconds)
+{
+    ::usleep(microseconds);
 }
 
 } // namespace PANFx::Print

@@ -2,7 +2,7 @@
 
 #include <string>
 
-/** The calls into the system that the way to the printer makes, and nothing else. */
+/** The calls into the system that the way to the printer makes: no other file makes them. */
 namespace PANFx::Print {
 
 /**
@@ -18,7 +18,16 @@ int writeBytes(int fd, const char* data, int size);
 /** One read. @return as read; a size below 0 fails like a call that the system refuses */
 int readBytes(int fd, char* buffer, int size);
 
+/** Closes a port. */
+void closeLine(int fd);
+
 /** Waits 0.3 seconds for bytes to read. @return as select: 1 when there are, 0 for none, -1 */
 int waitForBytes(int fd);
+
+/** Does nothing for so long. */
+void pauseSeconds(unsigned seconds);
+
+/** Does nothing for so long. */
+void pauseMicroseconds(unsigned microseconds);
 
 } // namespace PANFx::Print

@@ -166,8 +166,8 @@ std::string usage()
        printer-emulator --decode=FILE [OPTION]...
 
 Stands in for the thermal printer: opens a pseudo-terminal, links it to where the port is looked
-for, and prints "ready PORT" once the line stands. Ends on an interrupt, or as --jobs says. With
---decode it reads a file of bytes instead.
+for, and prints "ready PORT" once the line stands. Ends on an interrupt, behind the jobs that --jobs
+allows, or where --fault=unplug=N pulls the plug. With --decode it reads a file of bytes instead.
 
   --port=PATH        where the link is made ($QTPANFX_SYSROOT/dev/ttyS1)
   --paper=FILE       writes the paper's picture there, as PNG
@@ -188,8 +188,9 @@ for, and prints "ready PORT" once the line stands. Ends on an interrupt, or as -
       full-buffer        nothing is printed: the receive buffer fills, then the line is held
       unplug=N           the line is dead behind N bytes
 
-The result is 0; 1 when bytes belong to no command or a command is cut, with a line for each; 2
-when the arguments are wrong or the system refuses something.
+The result is 0; 1 when bytes belong to no command, a command is cut, or an image band is wider than
+the paper's 384 columns, with a line for each; 2 when the arguments are wrong or the system refuses
+something.
 )";
 }
 
