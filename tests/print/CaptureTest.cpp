@@ -93,6 +93,7 @@ protected:
 
 static_assert(std::has_virtual_destructor_v<Capture>);
 static_assert(std::is_default_constructible_v<Capture>);
+static_assert(sizeof(Capture) == sizeof(void*)); // no fields
 
 TEST_F(CaptureTest, SavesTheWholeScreen)
 {
@@ -153,6 +154,15 @@ TEST_F(CaptureTest, UsesTheNameAsItStands)
     Capture::viewCapture(80, "/tmp/bare");
     EXPECT_FALSE(saved("/tmp/bare").isNull());
     EXPECT_TRUE(captures().isEmpty());
+}
+
+TEST_F(CaptureTest, WritesARelativeNameIntoTheCurrentDirectory)
+{
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(QFile::decodeName(realPath("/data").c_str())));
+    Capture::viewCapture(80, "shot.jpg");
+    QDir::setCurrent(before);
+    EXPECT_FALSE(saved("/data/shot.jpg").isNull());
 }
 
 TEST_F(CaptureTest, TakesTheNameForLatin1)

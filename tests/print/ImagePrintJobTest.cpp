@@ -1,10 +1,13 @@
 #include "print/PrinterForTest.h"
+#include "print/ReportImage.h"
 #include "support/PanelTest.h"
 #include "support/SerialPort.h"
 
+#include <QBuffer>
 #include <QImageReader>
 
 #include <cerrno>
+#include <iterator>
 #include <sys/resource.h>
 
 using namespace PANFx::Testing;
@@ -14,6 +17,19 @@ namespace {
 class ImagePrintJobTest : public PanelTest
 {
 protected:
+    // a job never has two ports open
+    void TearDown() override
+    {
+        int open = 0;
+        for (const PortCallMade& made : m_port.calls()) {
+            if (made.call == PortCall::Open) {
+                EXPECT_EQ(open++, 0);
+            }
+            if (made.call == PortCall::Close)
+                --open;
+        }
+    }
+
     int print(int rows)
     {
         QImage image = whiteImage(rows);
@@ -21,11 +37,18 @@ protected:
     }
 
     // what goes out for so many white bands of a good job
-    static std::string whiteJob(int bands)
+    static std::string whiteJob(int bands) { return jobOf(whiteImage(bands * 24)); }
+
+    // what goes out for all bands of an image in a good job
+    static std::string jobOf(const QImage& image)
     {
         std::string job = jobStart;
-        for (int i = 0; i < bands; ++i)
-            job += statusRequest + whiteBand;
+        const QImage dots = PANFx::Print::dotsOf(image);
+        for (int band = 0; band < image.height() / 24; ++band) {
+            unsigned char columns[PANFx::Print::bandBytes];
+            PANFx::Print::packBand(dots, band, columns);
+            job += statusRequest + bandBytes(std::string(std::begin(columns), std::end(columns)));
+        }
         return job + jobEnd;
     }
 
@@ -162,6 +185,24 @@ TEST_F(ImagePrintJobTest, SavesTheFileBetweenJobStartAndTheFirstRequest)
     EXPECT_EQ(before, jobStart);
 }
 
+TEST_F(ImagePrintJobTest, SavesTheFileInAQualityOfEighty)
+{
+    QImage image = whiteImage(48);
+    for (int y = 0; y < 48; ++y) {
+        for (int x = 0; x < 384; ++x)
+            image.setPixel(x, y, (x * x / 7 + y * y / 3) % 5 == 0 ? 0xFF000000 : 0xFFFFFFFF);
+    }
+    m_printer.Printer_BitImage(image, 1);
+    const auto saved = [dots = PANFx::Print::dotsOf(image)](int quality) {
+        QBuffer buffer;
+        EXPECT_TRUE(dots.save(&buffer, "JPEG", quality));
+        return buffer.data().toStdString();
+    };
+    EXPECT_EQ(readFile("/tmp/print.jpg"), saved(80));
+    EXPECT_NE(readFile("/tmp/print.jpg"), saved(75));
+    EXPECT_NE(readFile("/tmp/print.jpg"), saved(100));
+}
+
 TEST_F(ImagePrintJobTest, GoesOnWhereTheFileCannotBeSaved)
 {
     SystemFaults faults;
@@ -196,6 +237,18 @@ TEST_F(ImagePrintJobTest, StopsBeforeTheFirstBandOfAPrinterThatIsNotReady)
     }
     EXPECT_EQ(log().count("[D] [Printer_BitImage] stop or checkstatus error"), 3);
     log().expectError("[sendCmd2Printer] uart_read_select error");
+}
+
+TEST_F(ImagePrintJobTest, TellsOfAPrinterThatCannotBeClearedBehindAStop)
+{
+    m_port.answer = [](const std::string&) { return "\x7E"; };
+    m_port.fail(PortCall::Open, {EBUSY}, 1);
+    EXPECT_EQ(print(48), -1);
+    EXPECT_EQ(m_port.written(), jobStart + statusRequest + jobEnd);
+    EXPECT_EQ(m_port.openPorts(), 0);
+    log().expectError("[initPrinter] fd open error");
+    log().expectError("[clearPrintBuffer] Failed to open printer");
+    EXPECT_EQ(log().texts().back(), "[D] [Printer_BitImage] stop or checkstatus error");
 }
 
 TEST_F(ImagePrintJobTest, StopsBetweenBandsWhenThePaperEnds)
@@ -273,6 +326,20 @@ TEST_F(ImagePrintJobTest, IsCancelledBehindJobStart)
     EXPECT_EQ(log().texts().back(), "[D] [Printer_BitImage] stop");
 }
 
+TEST_F(ImagePrintJobTest, IsCancelledWhileTheFileIsSaved)
+{
+    int files = 0;
+    m_port.onOtherFile = [this, &files](const std::string& path) {
+        EXPECT_EQ(path, realPath("/tmp/print.jpg"));
+        ++files;
+        m_printer.CancelPrint();
+    };
+    EXPECT_EQ(print(24), -1);
+    EXPECT_EQ(files, 1);
+    expectStopped(jobStart);
+    EXPECT_TRUE(fileExists("/tmp/print.jpg"));
+}
+
 TEST_F(ImagePrintJobTest, IsCancelledBeforeABandWithoutAsking)
 {
     m_port.onCall = [this](const PortCallMade& made) {
@@ -317,7 +384,7 @@ TEST_F(ImagePrintJobTest, PrintsNothingOfALineWithoutLineFeed)
     EXPECT_EQ(m_printer.m_strText, QStringLiteral("result"));
 }
 
-TEST_F(ImagePrintJobTest, SendsThreeBandsToFourLines)
+TEST_F(ImagePrintJobTest, SendsFourBandsToThreeLines)
 {
     const auto bands = [this](const char* text) {
         const size_t before = m_port.written().size();
@@ -345,6 +412,20 @@ TEST_F(ImagePrintJobTest, PrintsTheSameWhateverIsKeptForTheInterface)
     m_printer.setOffset(100, 100);
     m_printer.setImageSize(384, 400);
     EXPECT_EQ(sent(), plain);
+}
+
+TEST_F(ImagePrintJobTest, ComparesTextsWithTheWidthGiven)
+{
+    const char* const text = "#Result\n@Glucose\n";
+    EXPECT_EQ(m_printer.printImageString(text), 0);
+    const std::string wide = m_port.written();
+    m_printer.setImageSize(40, 20);
+    EXPECT_EQ(m_printer.printImageString(text), 0);
+    const std::string narrow = m_port.written().substr(wide.size());
+    EXPECT_NE(narrow, wide);
+    const QStringList lines = QString::fromLatin1(text).split(QLatin1Char('\n'));
+    EXPECT_EQ(narrow, jobOf(PANFx::Print::drawReport(lines, 40, 0)));
+    EXPECT_EQ(wide, jobOf(PANFx::Print::drawReport(lines, 384, 0)));
 }
 
 TEST_F(ImagePrintJobTest, KeepsTheTextUndecoded)

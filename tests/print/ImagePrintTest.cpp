@@ -4,9 +4,13 @@
 #include "support/PanelTest.h"
 #include "support/SerialPort.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
+#include <functional>
 #include <type_traits>
+#include <unistd.h>
 
 using namespace PANFx::Testing;
 
@@ -33,9 +37,39 @@ TEST_F(ImagePrintTest, StartsWithItsDefaults)
     EXPECT_EQ(m_printer.m_nOffsetX, 10);
     EXPECT_EQ(m_printer.m_nOffsetY, 32);
     EXPECT_EQ(m_printer.m_strText, QString());
+    EXPECT_FALSE(m_printer.m_strText.isNull());
     EXPECT_EQ(m_printer.m_nPrintMode, 0);
     EXPECT_FALSE(m_printer.m_bCancel);
     EXPECT_TRUE(m_port.calls().empty());
+}
+
+// classes that applications derive count on it
+TEST_F(ImagePrintTest, HasItsFieldsInTheirOrder)
+{
+    const std::vector<const void*> fields = {
+        &m_printer.m_nWidth,    &m_printer.m_nHeight,      &m_printer.m_strFontName,
+        &m_printer.m_nFontSize, &m_printer.m_strCodecName, &m_printer.m_nOffsetX,
+        &m_printer.m_nOffsetY,  &m_printer.m_strText,      &m_printer.m_nPrintMode,
+        &m_printer.m_bCancel,   &m_printer.m_logger};
+    EXPECT_TRUE(std::is_sorted(fields.begin(), fields.end(), std::less<const void*>()));
+}
+
+// only the destructor is virtual
+TEST_F(ImagePrintTest, CallsNothingThatADerivedClassHas)
+{
+    class Derived : public ImagePrint
+    {
+    public:
+        int checkStatusPrinter(int) { return -1; }
+        int clearPrintBuffer() { return ++cleared; }
+        int cleared = 0;
+    };
+    Derived printer;
+    QImage image = whiteImage(24);
+    EXPECT_EQ(printer.Printer_BitImage(image, 1), 0);
+    m_port.answer = [](const std::string&) { return "\x7E"; };
+    EXPECT_EQ(printer.Printer_BitImage(image, 1), -1);
+    EXPECT_EQ(printer.cleared, 0);
 }
 
 TEST_F(ImagePrintTest, StoresWhatItIsGiven)
@@ -128,6 +162,89 @@ TEST_F(ImagePrintTest, ClosesNoDescriptorBelowOne)
     m_printer.deInitPrinter(0, nullptr);
     m_printer.deInitPrinter(-1, nullptr);
     EXPECT_NE(fcntl(0, F_GETFD), -1);
+}
+
+// ---- the descriptors of a program without standard input or output
+
+namespace {
+
+// Closes one of the program's own descriptors, so that the next file opened gets it.
+class FreedDescriptor
+{
+public:
+    explicit FreedDescriptor(int descriptor)
+        : m_descriptor(descriptor)
+        , m_kept(fcntl(descriptor, F_DUPFD_CLOEXEC, 3))
+    {
+        close(m_descriptor);
+    }
+
+    ~FreedDescriptor()
+    {
+        if (m_kept >= 0)
+            dup2(m_kept, m_descriptor);
+        close(m_kept);
+    }
+
+    FreedDescriptor(const FreedDescriptor&) = delete;
+    FreedDescriptor& operator=(const FreedDescriptor&) = delete;
+
+private:
+    const int m_descriptor;
+    const int m_kept;
+};
+
+class ImagePrintDescriptorTest : public PanelTest
+{
+protected:
+    // the result of an operation that gets 0 for its port, which it is to leave open
+    template <typename Operation>
+    static int onDescriptorZero(const Operation& operation)
+    {
+        const FreedDescriptor freed(0);
+        SerialPort port;
+        ImagePrint printer;
+        const int result = operation(printer);
+        EXPECT_TRUE(port.isPort(0));
+        EXPECT_EQ(port.count(PortCall::Open), 1);
+        EXPECT_EQ(port.count(PortCall::Close), 0);
+        return result;
+    }
+};
+
+} // namespace
+
+TEST_F(ImagePrintDescriptorTest, LeavesZeroOpenAndAsksNothingOfIt)
+{
+    EXPECT_EQ(onDescriptorZero([](ImagePrint& printer) { return printer.checkPrinterRxBuf(); }),
+              -1);
+    log().expectError("[sendCmd2Printer] file descripter < 0 error");
+}
+
+TEST_F(ImagePrintDescriptorTest, LeavesZeroOpenWhenClearing)
+{
+    EXPECT_EQ(onDescriptorZero([](ImagePrint& printer) { return printer.clearPrintBuffer(); }), 0);
+}
+
+TEST_F(ImagePrintDescriptorTest, LeavesZeroOpenBehindAJob)
+{
+    EXPECT_EQ(onDescriptorZero([](ImagePrint& printer) {
+                  QImage image = whiteImage(23);
+                  return printer.Printer_BitImage(image, 1);
+              }),
+              0);
+}
+
+TEST_F(ImagePrintDescriptorTest, ClosesOne)
+{
+    fflush(stdout);
+    const FreedDescriptor freed(1);
+    SerialPort port;
+    ImagePrint printer;
+    const int fd = printer.initPrinter(nullptr);
+    printer.deInitPrinter(fd, nullptr);
+    EXPECT_EQ(fd, 1);
+    EXPECT_EQ(port.arguments(PortCall::Close), std::vector<long>{1});
 }
 
 // ---- status

@@ -90,6 +90,21 @@ TEST_F(ImagePrintTransportTest, GoesOnBehindAWriteThatTookNothing)
     EXPECT_EQ(m_port.count(PortCall::Usleep) + m_port.count(PortCall::Sleep), 0);
 }
 
+TEST_F(ImagePrintTransportTest, GoesOnBehindWhatWasTaken)
+{
+    m_port.fail(PortCall::Write, {0, 1}, 0, 1);
+    m_port.fail(PortCall::Write, {0, 2}, 0, 1);
+    m_port.fail(PortCall::Write, {EAGAIN}, 0, 1);
+    EXPECT_EQ(m_printer.uart_write(m_fd, "abcdef", 6), 6);
+    EXPECT_EQ(m_port.written(), "abc" + bufferRequest + "def");
+    EXPECT_EQ(m_port.arguments(PortCall::Write), (std::vector<long>{6, 5, 3, 3, 3}));
+    EXPECT_EQ(m_port.calls().back().text, "def");
+    EXPECT_EQ(log().texts(),
+              (std::vector<std::string>{"[D] write[1], offset[1] \n", "[D] write[2], offset[3] \n",
+                                        "[D] [checkPrinterRxBuf] rxBuf [15000] \n",
+                                        "[D] [uart_write] Print Error : 15000"}));
+}
+
 TEST_F(ImagePrintTransportTest, StopsOneTryBehindTheLength)
 {
     m_port.fail(PortCall::Write, {});

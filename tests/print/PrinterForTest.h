@@ -14,6 +14,7 @@ class PrinterForTest : public ImagePrint
 {
 public:
     using ImagePrint::m_bCancel;
+    using ImagePrint::m_logger;
     using ImagePrint::m_nFontSize;
     using ImagePrint::m_nHeight;
     using ImagePrint::m_nOffsetX;

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/select.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -29,6 +30,11 @@ bool endsWith(const std::string& text, const std::string& ending)
 {
     return text.size() >= ending.size() &&
            text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+int outcomeOf(const PortFault& fault)
+{
+    return fault.error == 0 ? 0 : -1;
 }
 
 // a printer that is ready and whose buffer is empty
@@ -115,26 +121,28 @@ const PortFault* SerialPort::faultFor(PortCall call)
     return nullptr;
 }
 
-// true when the call is made to fail; errno and the result are set then
-bool SerialPort::note(PortCall call, long argument, const std::string& text, long& result)
+// what the call is made to do instead; errno is set then
+const PortFault* SerialPort::note(PortCall call, long argument, const std::string& text)
 {
     m_calls.push_back({call, argument, text});
     if (onCall)
         onCall(m_calls.back());
     const PortFault* const fault = faultFor(call);
-    if (!fault)
-        return false;
-    result = fault->result();
-    errno = fault->error;
-    return true;
+    if (fault)
+        errno = fault->error;
+    return fault;
 }
 
 bool SerialPort::open(const char* path, int flags, int& result)
 {
-    if (active() != this || !endsWith(path, portPath))
+    if (active() != this)
         return false;
-    long failed = -1;
-    if (note(PortCall::Open, flags, path, failed)) {
+    if (!endsWith(path, portPath)) {
+        if (onOtherFile)
+            onOtherFile(path);
+        return false;
+    }
+    if (note(PortCall::Open, flags, path)) {
         result = -1;
         return true;
     }
@@ -150,25 +158,40 @@ bool SerialPort::write(int descriptor, const void* bytes, size_t size, ssize_t& 
     if (active() != this || !isPort(descriptor))
         return false;
     const std::string text(static_cast<const char*>(bytes), size);
-    if (note(PortCall::Write, static_cast<long>(size), text, result))
+    const PortFault* const fault = note(PortCall::Write, static_cast<long>(size), text);
+    if (fault && (fault->error != 0 || fault->taken == 0)) {
+        result = outcomeOf(*fault);
         return true;
-    result = m_line == Line::Real ? syscall(SYS_write, descriptor, bytes, size)
-                                  : static_cast<ssize_t>(size);
-    if (result > 0)
-        m_written.append(text, 0, static_cast<size_t>(result));
+    }
+    if (fault) {
+        result = take(descriptor, text.substr(0, static_cast<size_t>(fault->taken)));
+        m_cut[descriptor] += text.substr(0, static_cast<size_t>(result));
+        return true;
+    }
+    result = take(descriptor, text);
     if (m_line == Line::Scripted) {
-        const std::string back = answer(text);
+        const std::string back = answer(m_cut[descriptor] + text);
+        m_cut.erase(descriptor);
         if (!back.empty())
             m_input.push_back(back);
     }
     return true;
 }
 
+ssize_t SerialPort::take(int descriptor, const std::string& text)
+{
+    const ssize_t taken = m_line == Line::Real
+                              ? syscall(SYS_write, descriptor, text.data(), text.size())
+                              : static_cast<ssize_t>(text.size());
+    if (taken > 0)
+        m_written.append(text, 0, static_cast<size_t>(taken));
+    return taken;
+}
+
 ssize_t SerialPort::read(int descriptor, void* buffer, size_t size)
 {
-    long result = -1;
-    if (note(PortCall::Read, static_cast<long>(size), "", result))
-        return result;
+    if (const PortFault* const fault = note(PortCall::Read, static_cast<long>(size), ""))
+        return outcomeOf(*fault);
     if (m_line == Line::Real)
         return syscall(SYS_read, descriptor, buffer, size);
     if (m_input.empty())
@@ -186,9 +209,8 @@ ssize_t SerialPort::read(int descriptor, void* buffer, size_t size)
 int SerialPort::select(int descriptors, fd_set* readable, timeval* timeOut)
 {
     const long time = timeOut->tv_sec * 1000000 + timeOut->tv_usec;
-    long result = -1;
-    if (note(PortCall::Select, time, "", result))
-        return static_cast<int>(result);
+    if (const PortFault* const fault = note(PortCall::Select, time, ""))
+        return outcomeOf(*fault);
     if (m_line == Line::Real) {
         using Select = int (*)(int, fd_set*, fd_set*, fd_set*, timeval*);
         return next<Select>("select")(descriptors, readable, nullptr, nullptr, timeOut);
@@ -201,9 +223,8 @@ int SerialPort::select(int descriptors, fd_set* readable, timeval* timeOut)
 
 int SerialPort::flush(int descriptor, int queue)
 {
-    long result = -1;
-    if (note(PortCall::Flush, queue, "", result))
-        return static_cast<int>(result);
+    if (const PortFault* const fault = note(PortCall::Flush, queue, ""))
+        return outcomeOf(*fault);
     if (m_line == Line::Real)
         return next<int (*)(int, int)>("tcflush")(descriptor, queue);
     m_input.clear();
@@ -213,9 +234,8 @@ int SerialPort::flush(int descriptor, int queue)
 int SerialPort::configure(int descriptor, int action, const termios* settings)
 {
     m_settings = *settings;
-    long result = -1;
-    if (note(PortCall::Configure, action, "", result))
-        return static_cast<int>(result);
+    if (const PortFault* const fault = note(PortCall::Configure, action, ""))
+        return outcomeOf(*fault);
     if (m_line == Line::Real)
         return next<int (*)(int, int, const termios*)>("tcsetattr")(descriptor, action, settings);
     return 0;
@@ -223,17 +243,17 @@ int SerialPort::configure(int descriptor, int action, const termios* settings)
 
 int SerialPort::close(int descriptor)
 {
-    long result = -1;
-    const bool failed = note(PortCall::Close, descriptor, "", result);
+    const PortFault* const fault = note(PortCall::Close, descriptor, "");
     m_descriptors.erase(descriptor);
+    m_closed.insert(descriptor);
+    m_cut.erase(descriptor);
     syscall(SYS_close, descriptor); // a close that fails has closed all the same
-    return failed ? static_cast<int>(result) : 0;
+    return fault ? outcomeOf(*fault) : 0;
 }
 
 void SerialPort::sleep(PortCall call, long time)
 {
-    long result = 0;
-    note(call, time, "", result);
+    note(call, time, "");
 }
 
 } // namespace PANFx::Testing
@@ -315,7 +335,11 @@ int port_close(int descriptor)
 {
     if (SerialPort* const port = portOf(descriptor))
         return port->close(descriptor);
-    return next<int (*)(int)>("close")(descriptor);
+    const SerialPort* const port = SerialPort::active();
+    const int result = next<int (*)(int)>("close")(descriptor);
+    if (result != 0 && errno == EBADF && port && port->wasPort(descriptor))
+        ADD_FAILURE() << "the port " << descriptor << " is closed a second time";
+    return result;
 }
 
 unsigned port_sleep(unsigned seconds)

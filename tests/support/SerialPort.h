@@ -35,18 +35,18 @@ struct PortCallMade
     std::string text; ///< path of open, bytes of write, bytes that read gave
 };
 
-/** What a call does instead of what it should: fails with an error, or does nothing and gives 0. */
+/** What a call does instead of what it should: fails with an error, or does less. */
 struct PortFault
 {
     int error = 0; ///< 0 for a short write, an end of file, a time-out
-
-    long result() const { return error == 0 ? 0 : -1; }
+    int taken = 0; ///< bytes that a short write takes
 };
 
 /**
  * Stands in front of the serial port "/dev/ttyS1" and of sleep and usleep for as long as the
  * object lives. Every call is counted and can be made to fail; sleeps only count. One object at a
- * time, and only the calls of the thread that built it.
+ * time, and only the calls of the thread that built it. Closing a port a second time fails the
+ * test.
  */
 class SerialPort : private DeviceInFront
 {
@@ -63,13 +63,17 @@ public:
     SerialPort& operator=(const SerialPort&) = delete;
 
     /**
-     * Bytes for the line's reader as an answer to what one write wrote; "" for none. What it gives
-     * comes with one read. Good answers to the two requests unless set otherwise.
+     * Bytes for the line's reader as an answer to what one write wrote, behind what short writes
+     * through the same descriptor took of it before; "" for none. What it gives comes with one
+     * read. Good answers to the two requests unless set otherwise.
      */
     std::function<std::string(const std::string& written)> answer;
 
     /** Called before each call is made. */
     std::function<void(const PortCallMade& call)> onCall;
+
+    /** Called before a file that is not the port is opened. */
+    std::function<void(const std::string& path)> onOtherFile;
 
     /** The next reads give these, one each, whatever room the reader has asked for. */
     void give(const std::vector<std::string>& bytes);
@@ -100,6 +104,7 @@ public:
 
     // the calls themselves, for the definitions in front of the system's
     bool isPort(int descriptor) const { return m_descriptors.count(descriptor) > 0; }
+    bool wasPort(int descriptor) const { return m_closed.count(descriptor) > 0; }
     ssize_t read(int descriptor, void* buffer, size_t size);
     int select(int descriptors, fd_set* readable, timeval* timeOut);
     int flush(int descriptor, int queue);
@@ -121,8 +126,9 @@ private:
 
     bool open(const char* path, int flags, int& result) override;
     bool write(int descriptor, const void* bytes, size_t size, ssize_t& result) override;
-    bool note(PortCall call, long argument, const std::string& text, long& result);
+    const PortFault* note(PortCall call, long argument, const std::string& text);
     const PortFault* faultFor(PortCall call);
+    ssize_t take(int descriptor, const std::string& text);
 
     const Line m_line;
     const pthread_t m_thread = pthread_self();
@@ -130,6 +136,8 @@ private:
     std::map<int, PortFault> m_faults;
     std::vector<KindFault> m_kindFaults;
     std::set<int> m_descriptors;
+    std::set<int> m_closed;           // which the system may have given to others since
+    std::map<int, std::string> m_cut; // what short writes took, by descriptor
     std::deque<std::string> m_input;
     std::string m_written;
     termios m_settings{};

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <thread>
 #include <unistd.h>
@@ -81,6 +82,43 @@ TEST(SerialPort, FailsTheCallsItIsToldTo)
     EXPECT_EQ(write(fd, "c", 1), 0);
     EXPECT_EQ(write(fd, "d", 1), 1);
     EXPECT_EQ(port.written(), "bd");
+}
+
+TEST(SerialPort, CutsAWriteShort)
+{
+    SerialPort port;
+    port.fail(PortCall::Write, {0, 2}, 0, 1);
+    port.fail(PortCall::Write, {}, 0, 1);
+    const int fd = openPort();
+    EXPECT_EQ(write(fd, "\x10\x04\x04", 3), 2);
+    EXPECT_EQ(write(fd, "\x04", 1), 0);
+    EXPECT_EQ(port.written(), "\x10\x04");
+    char answer[4] = {};
+    EXPECT_EQ(read(fd, answer, 4), 0);
+    EXPECT_EQ(write(fd, "\x04", 1), 1); // only now is the request whole
+    EXPECT_EQ(port.written(), "\x10\x04\x04");
+    EXPECT_EQ(read(fd, answer, 4), 1);
+    EXPECT_EQ(answer[0], '\x12');
+}
+
+TEST(SerialPort, FailsATestThatClosesAPortTwice)
+{
+    SerialPort port;
+    const int fd = openPort();
+    EXPECT_EQ(close(fd), 0);
+    EXPECT_NONFATAL_FAILURE(close(fd), "is closed a second time");
+    EXPECT_EQ(port.count(PortCall::Close), 1);
+}
+
+TEST(SerialPort, SeesOtherFilesBeforeTheyAreOpened)
+{
+    SerialPort port;
+    std::string seen;
+    port.onOtherFile = [&seen](const std::string& path) { seen = path; };
+    close(openPort());
+    EXPECT_EQ(seen, "");
+    close(open("/dev/null", O_RDONLY));
+    EXPECT_EQ(seen, "/dev/null");
 }
 
 TEST(SerialPort, SeesOnlyTheThreadThatBuiltIt)
