@@ -131,11 +131,16 @@ private:
     std::vector<Place> m_places;
 };
 
-int openDescriptors()
+// what each open descriptor stands for, for people to read
+std::vector<std::string> openDescriptors()
 {
-    return static_cast<int>(QDir(QStringLiteral("/proc/self/fd"))
-                                .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
-                                .size());
+    std::vector<std::string> open;
+    const QDir folder(QStringLiteral("/proc/self/fd"));
+    for (const QFileInfo& entry :
+         folder.entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot))
+        open.push_back(
+            (entry.fileName() + QLatin1String(" ") + entry.symLinkTarget()).toStdString());
+    return open;
 }
 
 class ImagePrintFaultTest : public PanelTest, public ::testing::WithParamInterface<int>
@@ -193,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(Each, ImagePrintFaultTest,
 TEST_P(ImagePrintFaultTest, EndsAJobOfOneBandAsToldWhateverCallFails)
 {
     const GoodJob job(1);
-    const int before = openDescriptors();
+    const std::vector<std::string> before = openDescriptors();
     int tried = 0;
     for (size_t number = 0; number < job.places().size() && !HasFailure(); ++number) {
         if (job.places()[number].call.call == PortCall::Usleep)
@@ -209,7 +214,7 @@ TEST_P(ImagePrintFaultTest, EndsAJobOfOneBandAsToldWhateverCallFails)
 TEST_P(ImagePrintFaultTest, EndsAJobOfThreeBandsAsToldWhateverCommandFails)
 {
     const GoodJob job(3);
-    const int before = openDescriptors();
+    const std::vector<std::string> before = openDescriptors();
     int tried = 0;
     for (size_t number = 0; number < job.places().size() && !HasFailure(); ++number) {
         const Place& place = job.places()[number];

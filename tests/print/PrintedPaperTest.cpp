@@ -5,8 +5,10 @@
 #include "support/PanelTest.h"
 #include "support/SerialPort.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <memory>
 #include <thread>
 
@@ -76,6 +78,14 @@ protected:
         const int result = m_printer.printImageString(text);
         log().reset();
         return result;
+    }
+
+    double secondsFor(const char* text)
+    {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(m_printer.printImageString(text), 0);
+        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+        return time.count();
     }
 
     static std::string reportOf(int lines)
@@ -179,6 +189,19 @@ TEST_F(PrintedPaperTest, ComesWholeAtTheSpeedOfTheLine)
     EXPECT_TRUE(emulated.printer().reader().faults().empty());
 }
 
+// the answer to the last of the four requests comes when three bands are through
+TEST_F(PrintedPaperTest, TakesAsLongAsTheLineDoes)
+{
+    plugIn({}, 115200);
+    EXPECT_GE(secondsFor("a\nb\n"), 3 * 1161 * 10 / 115200.0);
+    double shortest = 10;
+    for (int tries = 0; tries < 10; ++tries) { // the machine may be busy
+        plugIn({}, 0);
+        shortest = std::min(shortest, secondsFor("a\nb\n"));
+    }
+    EXPECT_LT(shortest, 3 * 1161 * 10 / 115200.0);
+}
+
 TEST_F(PrintedPaperTest, IsTheSameForTwoReportsBehindEachOther)
 {
     EmulatedPrinter& emulated = plugIn();
@@ -225,6 +248,18 @@ TEST_F(PrintedPaperTest, ReadsNothingFromASilentRealLine)
     m_printer.deInitPrinter(fd, nullptr);
 }
 
+TEST_F(PrintedPaperTest, TellsWhatASlowPrinterHasStillToPrint)
+{
+    Behaviour slow;
+    slow.bytesPerSecond = 10;
+    plugIn(slow);
+    const int fd = m_printer.initPrinter(nullptr);
+    ASSERT_EQ(m_printer.uart_write(fd, whiteBand.data(), static_cast<int>(whiteBand.size())), 1158);
+    // what goes out behind it on a second descriptor comes behind it too
+    EXPECT_EQ(m_printer.checkPrinterRxBuf(), 15000 - 1158);
+    m_printer.deInitPrinter(fd, nullptr);
+}
+
 // ---- printers that misbehave
 
 TEST_F(PrintedPaperTest, StaysBlankWithoutPaper)
@@ -251,6 +286,24 @@ TEST_F(PrintedPaperTest, ComesWholeOfAPrinterThatAnswersLateOrTooMuch)
     EXPECT_EQ(m_printer.checkPrinterRxBuf(), -1);
 }
 
+TEST_F(PrintedPaperTest, WaitsForEachAnswerThatComesLate)
+{
+    Behaviour late;
+    late.lateMilliseconds = 50;
+    plugIn(late);
+    EXPECT_GE(secondsFor("a\n"), 2 * 0.050);
+}
+
+TEST_F(PrintedPaperTest, EndsWithAPrinterThatAnswersTooLate)
+{
+    Behaviour late;
+    late.lateMilliseconds = 1500; // a job waits for 1.2 seconds
+    plugIn(late);
+    EXPECT_EQ(m_printer.printImageString("a\n"), -1);
+    EXPECT_EQ(log().count("[D] select timeout\n"), 4);
+    log().expectError("[sendCmd2Printer] uart_read_select error");
+}
+
 TEST_F(PrintedPaperTest, EndsWithAWrongAnswerOrGarbage)
 {
     Behaviour wrong;
@@ -263,7 +316,7 @@ TEST_F(PrintedPaperTest, EndsWithAWrongAnswerOrGarbage)
     EXPECT_EQ(printQuietly("a\n"), -1);
 }
 
-// these two wait for 1.2 seconds, as the printer is given
+// this and the next wait for 1.2 seconds, as the printer is given
 TEST_F(PrintedPaperTest, EndsWithAPrinterThatDoesNotAnswer)
 {
     Behaviour silent;

@@ -1,5 +1,6 @@
 #include "print/PrinterForTest.h"
 #include "support/PanelTest.h"
+#include "support/SerialPort.h"
 
 #include <QProcess>
 
@@ -32,6 +33,14 @@ protected:
         return m_program.exitCode();
     }
 
+    // over the real line, without the pauses behind each byte
+    static void print(const char* text, int expected)
+    {
+        SerialPort port(SerialPort::Line::Real);
+        ImagePrint printer;
+        EXPECT_EQ(printer.printImageString(text), expected);
+    }
+
     std::string output() { return m_program.readAllStandardOutput().toStdString(); }
     std::string errors() { return m_program.readAllStandardError().toStdString(); }
 
@@ -54,6 +63,22 @@ TEST_F(PrinterEmulatorProgramTest, DecodesAFileOfBytes)
               std::string::npos);
     const QImage paper(real("/paper.png"));
     EXPECT_EQ(paper.size(), QSize(384, 24 + 96));
+}
+
+TEST_F(PrinterEmulatorProgramTest, ListsIntoAFile)
+{
+    writeFile("/job.bin", jobEnd);
+    EXPECT_EQ(run({QStringLiteral("--decode=") + real("/job.bin"),
+                   QStringLiteral("--list=") + real("/list.txt")}),
+              0);
+    EXPECT_EQ(output(), "");
+    EXPECT_EQ(readFile("/list.txt"),
+              "    offset       hex  bytes  command\n"
+              "         0         0      1  line feed                                 0A\n"
+              "         1         1      1  line feed                                 0A\n"
+              "         2         2      1  line feed                                 0A\n"
+              "         3         3      1  line feed                                 0A\n"
+              "         4         4      1  carriage return                           0D\n");
 }
 
 TEST_F(PrinterEmulatorProgramTest, TellsFileAndByteOfAFault)
@@ -100,8 +125,7 @@ TEST_F(PrinterEmulatorProgramTest, TakesAJobAndEnds)
            QStringLiteral("--capture=") + real("/job.bin")});
     ASSERT_TRUE(m_program.waitForReadyRead(20000));
     EXPECT_EQ(output(), "ready " + realPath("/dev/ttyS1") + "\n");
-    PrinterForTest printer; // with its pauses behind each byte
-    EXPECT_EQ(printer.printImageString("a\n"), 0);
+    print("a\n", 0);
     EXPECT_EQ(result(), 0);
     EXPECT_EQ(errors(), "");
     EXPECT_EQ(QImage(real("/paper.png")).size(), QSize(384, 48 + 96));
@@ -113,6 +137,18 @@ TEST_F(PrinterEmulatorProgramTest, TakesAJobAndEnds)
                    QStringLiteral("--paper=") + real("/again.png")}),
               0);
     EXPECT_EQ(QImage(real("/again.png")), printed);
+}
+
+// a job that is stopped ends in a carriage return as well, and the printer is cleared behind it
+TEST_F(PrinterEmulatorProgramTest, TakesAJobThatEndsForWantOfPaper)
+{
+    start({QStringLiteral("--jobs=1"), QStringLiteral("--fault=no-paper"),
+           QStringLiteral("--capture=") + real("/job.bin")});
+    ASSERT_TRUE(m_program.waitForReadyRead(20000));
+    print("a\n", -1);
+    EXPECT_EQ(result(), 0);
+    EXPECT_EQ(errors(), "");
+    EXPECT_EQ(readFile("/job.bin"), jobStart + statusRequest + jobEnd + resetAndClear);
 }
 
 TEST_F(PrinterEmulatorProgramTest, EndsOnASignalAndCleansUp)
