@@ -3,9 +3,13 @@
 #include "support/PanelTest.h"
 #include "support/Pixels.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QFont>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QProcess>
 
 using namespace PANFx::Testing;
 
@@ -104,9 +108,50 @@ TEST_F(ReportImageTest, BeginsBlankAndLeavesTheLastLineOut)
     EXPECT_EQ(Pixels::inkBox(draw("WWW"), Qt::white), QRect());
 }
 
+namespace {
+
+const char* const everyKindOfLine =
+    "Report\nmode\n#Heading\n#A heading that is much too wide to fit the paper in its font\n"
+    "1|GLU|98|70-110|mg/dL\n2|CHOLEST1|1234567890|0.123-45.67890|mmol/L\nNa|140|mmol|H\n"
+    "@fitted\n@a line of which the letters are moved together a little\nplain\n";
+
+constexpr const char* pictureVariable = "QTPANFX_TEST_PICTURE";
+
+} // namespace
+
+// run in another process by the test behind it
+TEST_F(ReportImageTest, DISABLED_savesAReport)
+{
+    QFont font(QStringLiteral("DejaVu Sans Mono"));
+    font.setPointSize(36);
+    EXPECT_EQ(QFontInfo(font).pixelSize(), qEnvironmentVariableIntValue("QTPANFX_TEST_DPI") / 2);
+    EXPECT_TRUE(draw(everyKindOfLine).save(qEnvironmentVariable(pictureVariable), "PNG"));
+}
+
+TEST_F(ReportImageTest, IsTheSameAtEveryResolution)
+{
+    const QString path = QFile::decodeName(realPath("/tmp/report.png").c_str());
+    for (const char* dpi : {"72", "100", "192"}) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QTPANFX_TEST_DPI"), QLatin1String(dpi));
+        environment.insert(QLatin1String(pictureVariable), path);
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("--gtest_also_run_disabled_tests"),
+                       QStringLiteral("--gtest_filter=ReportImageTest.DISABLED_savesAReport")});
+        ASSERT_TRUE(program.waitForFinished(20000));
+        ASSERT_EQ(program.exitCode(), 0) << program.readAllStandardOutput().toStdString();
+        EXPECT_TRUE(
+            Pixels::same(draw(everyKindOfLine), QImage(path).convertToFormat(QImage::Format_RGB32)))
+            << dpi;
+        removeFile("/tmp/report.png");
+    }
+}
+
 TEST_F(ReportImageTest, DrawsTwentyFourDotsToTwentyFourPoints)
 {
-    // whatever the screen's resolution: a letter of this font is as high as the font tells
+    // a letter of this font is as high as the font tells
     const QImage paper = draw("Hg\n");
     const QRect ink = Pixels::inkBox(paper, Qt::white);
     const QFontMetrics metrics(F0());

@@ -264,7 +264,8 @@ void SerialPort::sleep(PortCall call, long time)
 using namespace PANFx::Testing;
 
 #define IN_FRONT_OF(name)                                                                          \
-    __asm__(name) __attribute__((visibility("default"), used, no_sanitize("address", "undefined")))
+    __asm__(name) __attribute__((visibility("default"), used,                                      \
+                                 no_sanitize("address", "undefined", "thread")))
 
 extern "C" {
 

@@ -224,7 +224,8 @@ void setDeviceInFront(DeviceInFront* device)
 using namespace PANFx::Testing;
 
 #define IN_FRONT_OF(name)                                                                          \
-    __asm__(name) __attribute__((visibility("default"), used, no_sanitize("address", "undefined")))
+    __asm__(name) __attribute__((visibility("default"), used,                                      \
+                                 no_sanitize("address", "undefined", "thread")))
 
 extern "C" {
 

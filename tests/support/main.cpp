@@ -11,16 +11,26 @@ namespace {
 
 using PANFx::Testing::LogCapture;
 
+// A point is a pixel, as on the instrument, unless a test is about just that. Then it is the text
+// alone that gets larger: Qt would scale windows instead.
+void setResolution()
+{
+    const bool isGiven = qEnvironmentVariableIsSet("QTPANFX_TEST_DPI");
+    qputenv("QT_FONT_DPI", isGiven ? qgetenv("QTPANFX_TEST_DPI") : "72");
+    if (isGiven)
+        qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+}
+
 // what a developer's own desktop may set and what would change sizes and looks
 void makeTheSameEverywhere()
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_FONT_DPI", "72");            // a point is a pixel, as on the instrument
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0"); // a wish to repaint is met at once
     for (const char* name : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
                              "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_ENABLE_HIGHDPI_SCALING",
                              "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME", "QTPANFX_SYSROOT"})
         qunsetenv(name);
+    setResolution();
 }
 
 class JudgeOfErrorLines : public ::testing::EmptyTestEventListener

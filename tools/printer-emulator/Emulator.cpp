@@ -52,21 +52,35 @@ void Emulator::takeBytes()
     if (most == 0)
         return;
     const std::vector<std::uint8_t> bytes = m_line.read(most);
-    if (bytes.empty())
-        return;
-    m_lastByte = m_now;
-    if (m_settings.baud > 0) {
-        const std::chrono::duration<double> time(static_cast<double>(bytes.size()) * bitsOfByte /
-                                                 m_settings.baud);
-        m_lineFree = std::max(m_lineFree, m_now - std::chrono::milliseconds(waitMilliseconds)) +
-                     std::chrono::duration_cast<Clock::duration>(time);
+    if (!bytes.empty()) {
+        m_lastByte = m_now;
+        bringThrough(bytes.size());
+        receive(bytes);
     }
+    m_ranDry = bytes.size() < most;
+}
+
+// Bytes that waited while this thread was late have come through meanwhile; others start now.
+void Emulator::bringThrough(std::size_t bytes)
+{
+    if (m_settings.baud == 0)
+        return;
+    const std::chrono::milliseconds late(m_ranDry ? 0 : waitMilliseconds);
+    const std::chrono::duration<double> time(static_cast<double>(bytes) * bitsOfByte /
+                                             m_settings.baud);
+    m_lineFree =
+        std::max(m_lineFree, m_now - late) + std::chrono::duration_cast<Clock::duration>(time);
+}
+
+void Emulator::receive(const std::vector<std::uint8_t>& bytes)
+{
+    const Clock::time_point through = std::max(m_now, m_lineFree);
+    const std::chrono::milliseconds late(m_printer.behaviour().lateMilliseconds);
     m_captured.insert(m_captured.end(), bytes.begin(), bytes.end());
     for (const std::uint8_t byte : bytes) {
         std::vector<std::uint8_t> answer = m_printer.receive(byte);
-        const std::chrono::milliseconds late(m_printer.behaviour().lateMilliseconds);
         if (!answer.empty())
-            m_answers.push_back({m_now + late, std::move(answer)});
+            m_answers.push_back({through + late, std::move(answer)});
     }
 }
 

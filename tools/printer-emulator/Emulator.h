@@ -44,6 +44,8 @@ private:
 
     void waitAWhile();
     void takeBytes();
+    void bringThrough(std::size_t bytes);
+    void receive(const std::vector<std::uint8_t>& bytes);
     void takeTheRest();
     std::size_t mayTake();
     void sendAnswers();
@@ -57,6 +59,7 @@ private:
     Clock::time_point m_now = Clock::now();
     Clock::time_point m_lineFree = m_now; // when the last byte taken has come through
     Clock::time_point m_lastByte = m_now;
+    bool m_ranDry = true; // nothing was left on the line at the last look
 };
 
 } // namespace PrinterEmulator
