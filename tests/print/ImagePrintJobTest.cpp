@@ -330,7 +330,8 @@ TEST_F(ImagePrintJobTest, IsCancelledWhileTheFileIsSaved)
 {
     int files = 0;
     m_port.onOtherFile = [this, &files](const std::string& path) {
-        EXPECT_EQ(path, realPath("/tmp/print.jpg"));
+        if (path != realPath("/tmp/print.jpg"))
+            return; // a plugin of Qt
         ++files;
         m_printer.CancelPrint();
     };
