@@ -210,6 +210,8 @@ void ZELComboList::addItem(std::string strText)
         erase(strText);
     }
     // a list without rows keeps the newest alone and does not grow for ever
+    if (m_nListCount <= 0)
+        m_logger.WriteError("[%s] %s has no rows", "addItem", m_strID.c_str());
     if (getItemCount() == std::max(m_nListCount, 1))
         m_dequeItem.pop_front();
     m_dequeItem.push_back(std::move(strText));

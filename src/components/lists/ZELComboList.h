@@ -50,7 +50,10 @@ public:
     int getTotalPage();
     int getNowPage();
 
-    /** With more than one page the list keeps its full height and shows its scroll. */
+    /**
+     * Takes effect at the next draw(): with any total but 1 the list keeps its full height and
+     * shows its scroll.
+     */
     void setTotalPage(int nTotal);
 
     /** Kept also where the scroll refuses the page. */
@@ -78,7 +81,8 @@ public:
 
     /**
      * Adds the newest entry, dropping the oldest where all rows are taken. An empty text is
-     * ignored, and so is one that is there already, unless the list sorts.
+     * ignored, and so is one that is there already, unless the list sorts. Without rows the list
+     * keeps the newest alone and writes an error line.
      */
     void addItem(std::string strText);
 

@@ -143,6 +143,7 @@ TEST_F(ZELComboListTest, aNullLayoutGivesAnEmptyList)
                          "[E] [createSubComponent] ZELComboList, Node * pLayout == NULL"});
     EXPECT_TRUE(list.isHidden());
     EXPECT_EQ(list.m_nListCount, 0);
+    log().expectError("[addItem] cmb has no rows", 2, "ZELComboList");
     list.add({"a", "b"});
     EXPECT_EQ(list.geometry(), QRect(0, 0, 100, 30)) << "never placed";
 }
@@ -291,9 +292,12 @@ TEST_F(ZELComboListTest, emptiesItselfAndDraws)
 TEST_F(ZELComboListTest, withoutRowsItHoldsOneEntryAtMost)
 {
     Combo* const list = make<Combo>(comboOf("", ""), "ZELComboList");
+    log().expectError("[addItem] cmb has no rows", 3, "ZELComboList");
     list->add({"a", "b", "c"});
     EXPECT_EQ(list->entries(), "c");
     EXPECT_EQ(list->geometry(), QRect(20, 100, 200, 120)) << "not drawn";
+    list->add({"", "c"}); // adds nothing and tells nothing
+    EXPECT_EQ(list->entries(), "c");
 }
 
 // ---- pages
@@ -329,6 +333,16 @@ TEST_F(ZELComboListTest, pagesAndEntriesLeaveEachOtherAlone)
     list->removeItem(0);
     EXPECT_EQ(list->getTotalPage(), 2);
     EXPECT_EQ(list->getNowPage(), 1);
+}
+
+TEST_F(ZELComboListTest, aNewPageDoesNotDraw)
+{
+    Combo* const list = counted();
+    list->setNowPage(2);
+    EXPECT_EQ(draws(), 0);
+    EXPECT_TRUE(send(list, {EVENT_PAGE_DOWN, Kind::Range}));
+    EXPECT_EQ(list->getNowPage(), 7);
+    EXPECT_EQ(draws(), 0);
 }
 
 // ---- the edits that are tied to it
