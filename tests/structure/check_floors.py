@@ -28,6 +28,7 @@ FLOORS = [
     (4, "components/pictures/"),
     (3, "components/ZELComponent"),
     (3, "components/SubComponents"),
+    (3, "components/DeleteLiving"),
     (3, "components/support/"),
     (2, "resource/"),
     (2, "events/"),

@@ -2,6 +2,7 @@
 
 #include "common/tamfx/Attribute.h"
 #include "common/tamfx/Node.h"
+#include "components/DeleteLiving.h"
 #include "components/buttons/ZELImageButton.h"
 #include "components/editors/ZELImageEdit.h"
 #include "components/support/EditorFrame.h"
@@ -27,8 +28,7 @@ ZELEditRange::ZELEditRange(QWidget* pParent, std::string strID, std::string strT
 
 ZELEditRange::~ZELEditRange()
 {
-    if (isPartOf(this, m_pEditor))
-        delete m_pEditor;
+    deleteLiving(*this, m_pEditor);
 }
 
 void ZELEditRange::showWindow()

@@ -1,5 +1,6 @@
 #include "components/gauges/ZELRange.h"
 
+#include "components/DeleteLiving.h"
 #include "components/buttons/ZELImageButton.h"
 #include "components/support/LayoutPosition.h"
 #include "components/support/PostToParent.h"
@@ -17,19 +18,6 @@ namespace PANFx::Components {
 
 using TAMFx::Common::Xml::Node;
 
-namespace {
-
-// not "destroy": QWidget has an operation of that name, which would be taken instead
-template <typename Component>
-void deleteLiving(const QWidget& range, Component*& component)
-{
-    if (ZELComponent::isPartOf(&range, component))
-        delete component;
-    component = nullptr;
-}
-
-} // namespace
-
 ZELRange::ZELRange(QWidget* pParent, std::string strID, std::string strType, Node*)
     : ZELComponent(std::move(strID), std::move(strType))
     , QWidget(pParent, Qt::WindowFlags())
@@ -40,7 +28,10 @@ ZELRange::~ZELRange()
 {
     deleteLiving(*this, m_pUpBtn);
     deleteLiving(*this, m_pDownBtn);
-    deleteLiving(*this, m_pExtra);
+    // an application's part may lie anywhere
+    if (isAlive(m_pExtra))
+        delete m_pExtra;
+    m_pExtra = nullptr;
 }
 
 void ZELRange::setSoundMode(bool bSoundMode)

@@ -38,7 +38,10 @@ public:
     /** Goes to a step, held at the bounds; posts nothing. */
     virtual void setStep(int nStep) = 0;
 
-    /** Dims or undims the buttons. A later setStep() undims them again. */
+    /**
+     * Dims or undims the buttons. A later setStep() undims them again; that of a ZELProgressRange
+     * that wraps leaves them.
+     */
     virtual void setEnable(bool bEnable) = 0;
 
 protected:
@@ -56,7 +59,8 @@ public:
 protected:
     ZELImageButton* m_pUpBtn = nullptr;   ///< owned; adds 1
     ZELImageButton* m_pDownBtn = nullptr; ///< owned; takes 1 away
-    ZELComponent* m_pExtra = nullptr;     ///< owned; set by nothing
+    /** Owned, wherever it lies; nothing here sets it. One that is gone already is left alone. */
+    ZELComponent* m_pExtra = nullptr;
     int m_nStep = 0;
     int m_nMax = 0; ///< as each class defines it
     bool m_bWrap = false;

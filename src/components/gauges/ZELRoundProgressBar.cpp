@@ -2,6 +2,7 @@
 
 #include "common/tamfx/Attribute.h"
 #include "common/tamfx/Node.h"
+#include "components/DeleteLiving.h"
 #include "components/pictures/ZELPieImageBox.h"
 #include "components/support/LayoutPosition.h"
 
@@ -37,10 +38,8 @@ ZELRoundProgressBar::ZELRoundProgressBar(QWidget* pParent, std::string strID, st
 
 ZELRoundProgressBar::~ZELRoundProgressBar()
 {
-    if (isPartOf(this, m_pBGBox))
-        delete m_pBGBox;
-    if (isPartOf(this, m_pRoundBox))
-        delete m_pRoundBox;
+    deleteLiving(*this, m_pBGBox);
+    deleteLiving(*this, m_pRoundBox);
 }
 
 void ZELRoundProgressBar::showWindow()

@@ -27,6 +27,15 @@ public:
     }
 };
 
+// the one way to the fields of a button
+struct ButtonDoor : ZELImageButton
+{
+    static constexpr auto font = &ButtonDoor::m_pFont;
+    static constexpr auto animation = &ButtonDoor::m_strAnimation;
+    static constexpr auto x = &ButtonDoor::m_nOrgX;
+    static constexpr auto y = &ButtonDoor::m_nOrgY;
+};
+
 // the one way to the fields of the editor
 struct EditDoor : ZELImageEdit
 {
@@ -164,17 +173,22 @@ TEST_F(ZELEditRangeTest, withOneTextTheButtonsChangePlacesAtEachTouch)
 
 TEST_F(ZELEditRangeTest, looksAKeyUpAtEachStepAndGivesTheRawText)
 {
-    writeStrings("<StringTable><low><default>tief</default></low>"
-                 "<high><default>hoch</default></high></StringTable>");
+    writeStrings("<t><String key='low'><kr>first</kr><en>low</en></String>"
+                 "<String key='high'><kr>last</kr><en>high</en></String></t>");
     auto* const range = withTexts("a='@low' b='plain' c='@high'");
-    const std::string first = Resource::ZELResourceMgr::getInstance()->getLocaleString("@low");
-    EXPECT_EQ(range->text(), first);
+    EXPECT_EQ(range->text(), "low");
     EXPECT_EQ(range->getParam(0), "@low");
     EXPECT_EQ(range->getParam(2), "@high");
     range->setStep(2);
-    EXPECT_EQ(range->text(), Resource::ZELResourceMgr::getInstance()->getLocaleString("@high"));
+    EXPECT_EQ(range->text(), "high");
     range->setStep(1);
     EXPECT_EQ(range->text(), "plain");
+    Resource::ZELResourceMgr::getInstance()->changeLocale("kr");
+    EXPECT_EQ(range->text(), "plain");
+    range->setStep(2);
+    EXPECT_EQ(range->text(), "last") << "in the language of now";
+    range->setStep(0);
+    EXPECT_EQ(range->text(), "first");
 }
 
 TEST_F(ZELEditRangeTest, takesTheValuesOfAllAttributesInTheirOrder)
@@ -210,6 +224,29 @@ TEST_F(ZELEditRangeTest, withoutTextsNothingIsShownAndNothingBreaks)
             range->setStep(step);
         EXPECT_EQ(range->text(), "");
     }
+}
+
+TEST_F(ZELEditRangeTest, makesItsEditorLastAndDeletesItFirst)
+{
+    auto* const range = withTexts(three);
+    const QObjectList& children = range->children();
+    EXPECT_LT(children.indexOf(range->m_pUpBtn), children.indexOf(range->m_pDownBtn));
+    EXPECT_LT(children.indexOf(range->m_pDownBtn), children.indexOf(range->m_pEditor));
+    range->m_pEditor->raise(); // as one of Qt's children it would die last
+    std::string deaths;
+    for (const auto& [widget, name] : {std::pair<QWidget*, const char*>(range->m_pUpBtn, "up "),
+                                       {range->m_pDownBtn, "down "},
+                                       {range->m_pEditor, "editor "}})
+        QObject::connect(widget, &QObject::destroyed, [&deaths, name = name] { deaths += name; });
+    delete range;
+    EXPECT_EQ(deaths, "editor up down ");
+}
+
+TEST_F(ZELEditRangeTest, deletesNoEditorTwice)
+{
+    auto* const range = withTexts(three);
+    delete range->m_pEditor;
+    delete range;
 }
 
 TEST_F(ZELEditRangeTest, missingElements)
@@ -269,6 +306,21 @@ TEST_F(ZELEditRangeTest, theButtonsReadTheElementOfTheRangeFirst)
     EXPECT_TRUE(EditRange::hasLongPress(range->m_pUpBtn));
     EXPECT_TRUE(EditRange::hasLongPress(range->m_pDownBtn));
     EXPECT_FALSE(EditRange::hasLongPress(withTexts(three)->m_pUpBtn));
+}
+
+TEST_F(ZELEditRangeTest, whatElseTheButtonsReadThereStaysWhereTheyAreMoved)
+{
+    expectEditorLine();
+    auto* const range = open(std::string("<param ") + three + "/>" + parts() + editor(),
+                             "style='normal' title='T' animation='elastic_push'");
+    for (ZELImageButton* const button : {range->m_pUpBtn, range->m_pDownBtn}) {
+        EXPECT_EQ(button->getTitle(), "T");
+        EXPECT_EQ(button->*ButtonDoor::font, style("normal"));
+        EXPECT_EQ(button->*ButtonDoor::animation, "elastic_push");
+        EXPECT_EQ(QPoint(button->*ButtonDoor::x, button->*ButtonDoor::y), QPoint(10, 20))
+            << "where it comes to rest is the place of the range";
+    }
+    EXPECT_EQ(range->m_pUpBtn->pos(), QPoint(140, 0));
 }
 
 TEST_F(ZELEditRangeTest, dressesItsEditor)

@@ -5,6 +5,8 @@
 #include "components/gauges/RangeTest.h"
 #include "components/text/ZELLabel.h"
 
+#include <QPointer>
+
 #include <climits>
 
 using namespace PANFx;
@@ -142,6 +144,21 @@ TYPED_TEST(ZELRangeTest, startsAtStep0WithTheButtonDownDim)
     EXPECT_EQ(this->panel().takeTypes(), (std::vector<int>{}));
 }
 
+TYPED_TEST(ZELRangeTest, buildsTheComponentsOfItsElementAndThenItsButtons)
+{
+    std::string xml = Sample<TypeParam>::xml();
+    xml.insert(xml.rfind("</rng>"), "<label><more title='t' style='normal'/></label>");
+    Sample<TypeParam>::expectLines(this->log(), 1);
+    auto* const range = this->template make<OpenRange<TypeParam>>(xml, Sample<TypeParam>::type);
+    ASSERT_EQ(range->getComponentCount(), 1);
+    QWidget* const more = range->getSubComponent("more")->getQWidget();
+    EXPECT_TRUE(more->isVisible());
+    const QObjectList& children = range->children();
+    EXPECT_EQ(children.indexOf(more), 0);
+    EXPECT_EQ(children.indexOf(range->m_pUpBtn), 1);
+    EXPECT_EQ(children.indexOf(range->m_pDownBtn), 2);
+}
+
 TYPED_TEST(ZELRangeTest, eachTouchOfAButtonStepsAndTellsTheStep)
 {
     auto* const range = this->makeRange();
@@ -193,6 +210,22 @@ TYPED_TEST(ZELRangeTest, whatBecomesOfAnEvent)
                   (Outcome{true, row.posted, {}}));
         EXPECT_EQ(range->m_nStep, row.step);
     }
+}
+
+TYPED_TEST(ZELRangeTest, whatItDoesNotKnowIsQts)
+{
+    auto* const range = this->makeRange();
+    this->expectWidgetsAnswers(range);
+    std::vector<int> numbers = allNumbers();
+    numbers.push_back(EVENT_MOUSE_DOWN);
+    for (const int number : numbers) {
+        for (const Kind kind : {Kind::Event, Kind::Range, Kind::List}) {
+            Incoming event{number, kind};
+            event.sender = range->m_pUpBtn;
+            EXPECT_TRUE(this->send(range, event)) << event;
+        }
+    }
+    EXPECT_EQ(this->panel().takeTypes(), (std::vector<int>{}));
 }
 
 TYPED_TEST(ZELRangeTest, aClickThatIsNoEventOfTheLibraryStepsNothing)
@@ -305,6 +338,9 @@ TYPED_TEST(ZELRangeTest, withoutButtonsTheSoundIsTold)
                             1, "ZELWindow");
     this->log().expectError("[setLayout] ok pLayout == NULL", 1, Sample<TypeParam>::type);
     auto* const range = this->template make<OpenRange<TypeParam>>("", Sample<TypeParam>::type);
+    this->log().expectInOrder({"[E] [createSubComponent] " + std::string(Sample<TypeParam>::type) +
+                                   ", Node * pLayout == NULL",
+                               "[E] [setLayout] ok pLayout == NULL"});
     this->log().expectError("[setSoundMode] ok has not both buttons", 1, "ZELRange");
     range->setSoundMode(false);
     EXPECT_EQ(range->dims(), "");
@@ -338,6 +374,15 @@ TYPED_TEST(ZELRangeTest, deletesNoPartTwice)
     delete this->makeExtra(range);
     delete range->m_pUpBtn;
     delete range;
+}
+
+TYPED_TEST(ZELRangeTest, deletesTheExtraPartWhereverItLies)
+{
+    auto* const range = this->makeRange();
+    const QPointer<QWidget> extra(this->makeExtra(range));
+    extra->setParent(&this->panel());
+    delete range;
+    EXPECT_TRUE(extra.isNull());
 }
 
 TYPED_TEST(ZELRangeTest, showsAndHides)

@@ -26,6 +26,8 @@ public:
     using ZELRoundProgressBar::m_pBGBox;
     using ZELRoundProgressBar::m_pRoundBox;
 
+    static constexpr auto backgroundBox = &Ring::m_pBGBox;
+
     // in sixteenths of a degree, as the ring keeps it
     int angle() const { return m_pRoundBox->*PieDoor::angle; }
 
@@ -123,6 +125,40 @@ TEST_F(ZELRoundProgressBarTest, placesWhatItsElementsLeaveOut)
     EXPECT_EQ(made->m_pRoundBox->geometry(), QRect(0, 0, 1, 1));
 }
 
+TEST_F(ZELRoundProgressBarTest, placesItsBoxesAlsoWhereAPictureIsMissing)
+{
+    const std::string place = "x='5' y='6' width='60' height='50'/>";
+    for (const std::string& children :
+         {"<image " + place + "<round file='ring.png'/>", "<image file='back.png' " + place,
+          "<image file='no.png' " + place + "<round file='no.png'/>"}) {
+        SCOPED_TRACE(children);
+        expectBoxLines();
+        const bool missing = children.find("no.png") != std::string::npos;
+        log().expectError("[setImage] m_pBGPixmap == NULL", missing ? 2 : 0, "ZELImageBox");
+        log().startHere();
+        const auto* const made = open(children);
+        EXPECT_EQ(made->m_pBGBox->geometry(), QRect(5, 6, 60, 50));
+        EXPECT_EQ(made->m_pRoundBox->geometry(), QRect(5, 6, 60, 50));
+        delete made;
+        EXPECT_EQ(ringIsBare(), children.find("ring.png") == std::string::npos);
+        log().verify();
+    }
+}
+
+TEST_F(ZELRoundProgressBarTest, buildsTheComponentsOfItsElementAndThenItsBoxes)
+{
+    expectBoxLines();
+    auto* const made = open("<label><more title='t' style='normal'/></label>"
+                            "<image file='back.png'/><round file='ring.png'/>");
+    ASSERT_EQ(made->getComponentCount(), 1);
+    QWidget* const more = made->getSubComponent("more")->getQWidget();
+    EXPECT_TRUE(more->isVisible());
+    const QObjectList& children = made->children();
+    EXPECT_EQ(children.indexOf(more), 0);
+    EXPECT_EQ(children.indexOf(made->m_pBGBox), 1);
+    EXPECT_EQ(children.indexOf(made->m_pRoundBox), 2);
+}
+
 TEST_F(ZELRoundProgressBarTest, isBuiltInItsOrder)
 {
     log().startHere();
@@ -174,6 +210,9 @@ TEST_F(ZELRoundProgressBarTest, withoutAnElementTellsItAndKeepsAValue)
     log().expectError("[createSubComponent] ZELRoundProgress, Node * pLayout == NULL", 1);
     log().expectError("[setLayout] ok pLayout == NULL", 1, "ZELRoundProgressBar");
     auto* const made = make<Ring>("", "ZELRoundProgress");
+    log().expectInOrder({"[E] [createSubComponent] ZELRoundProgress, Node * pLayout == NULL",
+                         "[E] [setLayout] ok pLayout == NULL",
+                         "[D] [SetPercent] Percent : 0 Angle : 360"});
     EXPECT_EQ(made->m_pBGBox, nullptr);
     EXPECT_EQ(made->m_pRoundBox, nullptr);
     made->SetPercent(30);
@@ -288,6 +327,25 @@ TEST_F(ZELRoundProgressBarTest, deletesItsBoxesAndNoneTwice)
     auto* const second = whole();
     delete second->m_pBGBox;
     delete second;
+}
+
+TEST_F(ZELRoundProgressBarTest, deletesTheBackgroundAndThenTheRing)
+{
+    auto* const made = whole();
+    auto* const other = new QWidget(made);
+    // as Qt's children they would die the other way round
+    made->m_pBGBox->raise();
+    other->lower();
+    ZELRoundProgressBar* const bar = made;
+    std::string deaths;
+    for (const auto& [widget, name] : {std::pair<QWidget*, const char*>(made->m_pBGBox, "image "),
+                                       {made->m_pRoundBox, "round "},
+                                       {other, "other"}})
+        QObject::connect(widget, &QObject::destroyed, [&deaths, name = name] { deaths += name; });
+    QObject::connect(made->m_pRoundBox, &QObject::destroyed,
+                     [bar] { EXPECT_EQ(bar->*Ring::backgroundBox, nullptr) << "gone and let go"; });
+    delete made;
+    EXPECT_EQ(deaths, "image round other");
 }
 
 TEST_F(ZELRoundProgressBarTest, postsNothingOfItsOwn)
