@@ -20,12 +20,13 @@ namespace PANFx::Components {
  * in pixels), and the groups of buttons and pages in turn: a "tabbutton" group with one button,
  * a "tabpage" group with its page, the next button, and so on.
  *
- * Posts EVENT_TAB_DOWN (1561) with its own id to its parent when a touch has changed the page.
+ * Posts EVENT_TAB_DOWN (1561) with its own id to its parent when a touch has changed the page, and
+ * when a tab on one of its pages has told the same.
  */
 class QTPANFX_EXPORT ZELTab : public ZELComponent, public QWidget
 {
 public:
-    /** @throw std::out_of_range when the element has an odd number of components */
+    /** @throw std::out_of_range as addTabPage() does */
     ZELTab(QWidget* pParent, std::string strID, std::string strType,
            TAMFx::Common::Xml::Node* pLayout);
     ~ZELTab() override;
@@ -35,10 +36,13 @@ public:
     void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
     QWidget* getQWidget() override;
 
-    /** Shows a tab; posts nothing. A number that is no tab's is told and shows none. */
+    /**
+     * Shows a tab; posts nothing. A number below 0 or not below the number of components is told
+     * and changes nothing; one between that of the tabs and that bound is told and shows none.
+     */
     void setPage(int nPage);
 
-    /** The tab now shown. */
+    /** The number last given to setPage() and accepted; 0 at first. */
     int getPage() const;
 
     /** Tab of the button with that id; -1, with an error line, when there is none. */
@@ -50,7 +54,8 @@ public:
 
     /**
      * Takes up the pairs of button and page among the sub-components and hides the pages.
-     * @throw std::out_of_range when their number is odd
+     * @throw std::out_of_range when their number is odd, unless the reading has ended earlier, at
+     *        a pair of other types or of what an application has deleted
      */
     void addTabPage();
 

@@ -15,8 +15,9 @@ class ZELImageEdit;
  *
  * Layout: attribute "style"; children "position", "param" (the values of its attributes are the
  * texts, or "@key" of the string table), "upbtn" and "downbtn" (place and the pictures "up",
- * "down", "dim"), "editor" (place and the pictures "start", "mid", "end"). All of them must be
- * there. "longpress", "title" and the like on the element itself go to both buttons.
+ * "down", "dim"), "editor" (place and the pictures "start", "mid", "end"). All of the children but
+ * "position" must be there. "longpress", "title" and the like on the element itself go to both
+ * buttons.
  */
 class QTPANFX_EXPORT ZELEditRange : public ZELRange
 {

@@ -17,9 +17,11 @@ namespace PANFx::Components {
  * A horizontal bar of four pictures: a background, and a fill of a left cap, a stretched middle
  * and a right cap. Prints the number over it where there is a style.
  *
- * Layout: attribute "style"; children "image" with "bg", "start", "mid" and "end", all or none,
- * "position", and "offset" with "x" (left and right inset of the fill in pixels) and "y" (its
- * top), 0 without the element and 1 where the element leaves one out.
+ * Layout: attribute "style"; children "image" with "bg", "start", "mid" and "end", "position", and
+ * "offset" with "x" (left and right inset of the fill in pixels) and "y" (its top), 0 without the
+ * element and 1 where the element leaves one out. An "image" that lacks one of its four ends the
+ * reading: neither place nor offset is taken. Without the element there are no pictures, and the
+ * rest is read.
  */
 class QTPANFX_EXPORT ZELImageProgressBar : public ZELProgressBar
 {

@@ -14,7 +14,7 @@ namespace PANFx::Components {
  * for a row that grows to the right), "offset" (pixels between thumbs), "max"; children
  * "position", "bgimg" and "thumbimg" ("file" and place; the "y" of a column's thumb is the bottom
  * of the first), "upbtn" and "downbtn" (place and the pictures "up", "down", "dim"). All of the
- * children must be there.
+ * children but "position" must be there.
  */
 class QTPANFX_EXPORT ZELProgressRange : public ZELRange
 {

@@ -24,7 +24,8 @@ class ZELListScroll;
  * Layout: attributes "style" and "titlestyle" (the same as "style" when missing); children
  * "position", "board" (the text area: "x", "y", "width", "height" in pixels, by default those of
  * "position", "align" and "indent", a hanging indent in pixels) and "Components" with a
- * "listscroll". Style, board and scroll must be there, and the board must be higher than a line.
+ * "listscroll". Style, board and scroll must be there, and the board must be at least as high as a
+ * line.
  *
  * Posts EVENT_MOUSE_UP (1552) to its parent at each release on the text.
  */
