@@ -1,11 +1,13 @@
 #include "components/lists/ComboTest.h"
 
 #include "components/editors/ZELImageEdit.h"
+#include "components/editors/ZELImageNumberEdit.h"
 #include "components/text/ZELLineEdit.h"
 
 using namespace PANFx;
 using namespace PANFx::Testing;
 using Components::ZELImageEdit;
+using Components::ZELImageNumberEdit;
 using Components::ZELLineEdit;
 
 namespace {
@@ -109,6 +111,7 @@ TEST_F(ZELComboListChoiceTest, everyListEventInTheColumnOfTheTextsIsAChoice)
 TEST_F(ZELComboListChoiceTest, anythingBelowAClickIsQts)
 {
     Combo* const list = opened(combo());
+    EXPECT_FALSE(send(list, {900, Kind::Plain})) << "Qt's own range, and unknown to it";
     for (const int type : {1000, int(EVENT_WINDOW_ACTIVATE), int(EVENT_MOUSE_DOWN)}) {
         for (const Kind kind : allKinds) {
             Incoming incoming{type, kind};
@@ -273,6 +276,20 @@ TEST_F(ZELComboListChoiceTest, aLineEditTakesTheTextByteByByteAndAnEditAsItIs)
     EventLoop::deliver();
     EXPECT_EQ(field->text(), QString::fromLatin1(text.c_str()));
     EXPECT_EQ(field->text().size(), 5);
+}
+
+// An empty text empties a number field where it comes as characters; as a std::string it is 0.
+TEST_F(ZELComboListChoiceTest, aNumberFieldIsHandedCharacters)
+{
+    Combo* const list = opened(combo("", ""));
+    auto* const number = buildComponent<ZELImageNumberEdit>(
+        "imageNumberEdit", "<n style='normal'>" + at(600, 0, 90, 30) + "</n>");
+    number->setText("5");
+    EXPECT_EQ(number->text(), "5");
+    list->setEdit(number);
+    Touch::tapWindow(list->button(0));
+    EXPECT_EQ(toldOne(list), inList(1552, 0, 0));
+    EXPECT_EQ(number->text(), "");
 }
 
 TEST_F(ZELComboListChoiceTest, withoutAnEditItClosesAndTellsAllTheSame)

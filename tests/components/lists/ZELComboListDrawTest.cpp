@@ -184,6 +184,26 @@ TEST_F(ZELComboListDrawTest, withoutAllPicturesNoTitleIsWrittenThoughTheRowsAreT
     }
 }
 
+TEST_F(ZELComboListDrawTest, aDeadRowIsBlankWhateverThePictures)
+{
+    for (const char* image : {"", "<image mid='mid.png' end='end.png'/>"}) {
+        expectScrollLines();
+        std::string titled;
+        for (int i = 0; i < 4; ++i)
+            titled += row("row" + std::to_string(i), 30 * i,
+                          group("button", cell("text", 0, "title='t' style='normal'")));
+        Combo* const list = make<Combo>(
+            comboOf("", group("listscroll", scrollElement) + group("listitem", titled), image),
+            "ZELComboList");
+        for (int i = 0; i < 4; ++i) {
+            EXPECT_EQ(list->button(i)->getTitle(), "") << "it has drawn without an entry";
+            list->button(i)->setTitle("t");
+        }
+        list->addItem("a");
+        EXPECT_EQ(list->rows(), "t ~ ~ ~") << "the one of the entry keeps its title";
+    }
+}
+
 TEST_F(ZELComboListDrawTest, writesIntoTheButtonThatItemIndexNames)
 {
     Combo* const list = combo("itemIndex='1'");

@@ -347,6 +347,19 @@ TEST_F(ZELHeaderButtonTest, heedsNeitherImageRectangleNorDimPictureNorDimStyle)
     EXPECT_TRUE(Pixels::same(painted(button), image));
 }
 
+TEST_F(ZELHeaderButtonTest, checkedAndDimmedItHeedsThemAsLittleNorTheAlignment)
+{
+    Sort* const button = sort("title='HHHH' style='normal' dimstyle='dimmed'",
+                              "<imagePos x='5' y='5' width='10' height='10'/>"
+                              "<textPos x='20' y='4' width='50' height='30' align='right'/>" +
+                                  icon);
+    button->m_bChecked = true;
+    button->m_bDimMode = true;
+    QImage image = expected(Qt::blue, Qt::cyan);
+    drawText(image, QStringLiteral("HHHH"), QRect(20, 4, 50, 30), centred, "normal", Qt::black);
+    EXPECT_TRUE(Pixels::same(painted(button), image));
+}
+
 TEST_F(ZELHeaderButtonTest, centresItsTitleWhateverTheAlignment)
 {
     Sort* const button = sort("title='Hä' style='normal'",
@@ -366,4 +379,16 @@ TEST_F(ZELHeaderButtonTest, scalesPicturesSmoothly)
     EXPECT_GT(greys(painted(button), button->rect()), 0);
     button->m_bChecked = true;
     EXPECT_GT(greys(painted(button), button->rect()), 0);
+}
+
+TEST_F(ZELHeaderButtonTest, scalesItsIconsSmoothly)
+{
+    writeHalves("halves.png");
+    Sort* const button =
+        sort("", "<icon up='halves.png' down='halves.png' x='60' y='10' width='16' height='12'/>");
+    button->m_bChecked = true;
+    for (const bool direction : {false, true}) {
+        button->m_bDirection = direction;
+        EXPECT_GT(greys(painted(button), QRect(60, 10, 16, 12)), 0) << direction;
+    }
 }

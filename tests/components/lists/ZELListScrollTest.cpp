@@ -273,7 +273,11 @@ TEST_F(ZELListScrollTest, aTotalBelowThePageLeavesPageAndStates)
     Scroll* const scroll = this->scroll();
     scroll->setListTotalPage(5);
     scroll->setListNowPage(5);
+    EventLoop::deliver();
+    scroll->paints = 0;
     scroll->setListTotalPage(3);
+    EventLoop::deliver();
+    EXPECT_EQ(scroll->paints, 0) << "the total is seen with the next paint";
     EXPECT_EQ(scroll->m_nNowPage, 5);
     EXPECT_EQ(scroll->dims(), "down");
     EXPECT_EQ(scroll->shown(), "5/3");
@@ -292,6 +296,17 @@ TEST_F(ZELListScrollTest, aTotalOfNothingIsShown)
     EXPECT_EQ(scroll->shown(), "1/0");
 }
 
+TEST_F(ZELListScrollTest, aTotalBelowNothingHasALastPage)
+{
+    Scroll* const scroll = this->scroll();
+    scroll->setListTotalPage(-1);
+    EXPECT_EQ(scroll->shown(), "1/-1");
+    EXPECT_EQ(scroll->dims(), "up down") << "page 1 lies beyond it";
+    scroll->setListNowPage(-1);
+    EXPECT_EQ(scroll->shown(), "-1/-1");
+    EXPECT_EQ(scroll->dims(), "down");
+}
+
 // ---- the label
 
 TEST_F(ZELListScrollTest, numbersPagesOnOneLineOrOnThree)
@@ -306,6 +321,7 @@ TEST_F(ZELListScrollTest, numbersPagesOnOneLineOrOnThree)
         scroll->setListNowPage(2);
         EXPECT_EQ(scroll->getPageNumbering(), text);
         EXPECT_EQ(scroll->m_strPageNumbering, text);
+        EXPECT_EQ(scroll->shown(), text);
         scroll->hideWindow();
     }
 }

@@ -195,6 +195,15 @@ TEST_F(ZELListTest, aFileThatIsNotThereGivesRowsAndALine)
               QRect(1, 2, 0, 0));
 }
 
+TEST_F(ZELListTest, anEmptyFileNameGivesRowsAndItsLines)
+{
+    log().expectError("[getImage] No FileName Error", 1, "ZELImageMgr");
+    List* const list = this->list(rows(), "<image file=''/>");
+    EXPECT_EQ(list->m_arrItemId.Count(), 4);
+    EXPECT_EQ(list->m_pBGPixmap, nullptr);
+    EXPECT_EQ(log().texts("ZELList"), std::vector<std::string>{noFile});
+}
+
 TEST_F(ZELListTest, drawsTheWholePictureIntoItsRectangle)
 {
     List* const list = this->list("", "<image file='back.png' x='10' y='20' width='90' "

@@ -270,6 +270,17 @@ TEST_F(ZELListTouchTest, touchesOnEachCellOfTheHeader)
     }
 }
 
+TEST_F(ZELListTouchTest, aBoxWithAnIconInTheHeaderIsAPlainCell)
+{
+    List* const list = make<List>(
+        table(group("listheader", row("head", 0, group("iconcheckbutton", cell("icon", 0))))),
+        "ZELList");
+    for (const bool checked : {true, false}) {
+        Touch::tapWindow(list->headCell("icon"));
+        EXPECT_EQ(toldOne(list), inList(1590, 0, 0, true)) << checked;
+    }
+}
+
 TEST_F(ZELListTouchTest, nobodyClearsTheOtherHeaderCells)
 {
     expectScrollLines(0);

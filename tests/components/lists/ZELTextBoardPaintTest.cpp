@@ -74,6 +74,17 @@ TEST_F(ZELTextBoardPaintTest, furtherLinesOfAParagraphHang)
     EXPECT_FALSE(Pixels::same(painted(board), expected)) << "drawn with the indent of now";
 }
 
+TEST_F(ZELTextBoardPaintTest, aParagraphThatRunsOverThePageHangsOnTheNext)
+{
+    Board* const board = hanging();
+    board->setText("a\nb\nc\ndddddddddddddddd eeeeeeeee"); // four lines fill page 1
+    ASSERT_EQ(board->m_nTotalPage, 2);
+    turnTo(board, 2);
+    QImage expected = empty();
+    expectLine(expected, board, 0, board->m_nIndent, QStringLiteral("eeeeeeeee "));
+    EXPECT_TRUE(Pixels::same(painted(board), expected));
+}
+
 TEST_F(ZELTextBoardPaintTest, withoutAnIndentAllLinesStandAtTheLeft)
 {
     Board* const board = boardOf(10, 5);
@@ -159,6 +170,29 @@ TEST_F(ZELTextBoardPaintTest, aWordThatIsTooLongMayWrap)
     QImage expected = empty();
     expectLine(expected, board, 1, 0, QString()); // the empty line before it
     expectLine(expected, board, 2, 0, QStringLiteral("aaaaaaaaa-bbbbbbbb "));
+    EXPECT_TRUE(Pixels::same(painted(board), expected));
+}
+
+TEST_F(ZELTextBoardPaintTest, aHangingWordThatIsTooLongWrapsAtTheRightEdgeOfTheBoard)
+{
+    Board* const board = boardOf(10, 8, 2);
+    board->setText("cccccccc aaaaa-bbbb"); // the second fits the board and not what hangs
+    ASSERT_EQ(board->m_lstLines.size(), 2);
+    QImage expected = empty();
+    expectLine(expected, board, 1, 0, QStringLiteral("cccccccc "));
+    expectLine(expected, board, 2, board->m_nIndent, QStringLiteral("aaaaa-bbbb "));
+    const QImage image = painted(board);
+    EXPECT_TRUE(Pixels::same(image, expected));
+    const QRect rowBelow(0, 20 + 3 * board->m_nLineHeight, 490, board->m_nLineHeight);
+    EXPECT_GT(Pixels::inkInside(image, rowBelow), 0) << "its second half";
+}
+
+TEST_F(ZELTextBoardPaintTest, aMarkThatTheTextBringsIsShownBehindTheLibrarysOwn)
+{
+    Board* const board = hanging();
+    board->setText("||x");
+    QImage expected = empty();
+    expectLine(expected, board, 1, 0, QStringLiteral("||x "));
     EXPECT_TRUE(Pixels::same(painted(board), expected));
 }
 
