@@ -116,12 +116,12 @@ TEST_F(ZELBubbleDialogTest, takesNumbersOfAnySign)
 
 TEST_F(ZELBubbleDialogTest, aKeyOfTheStringTableShowsItsEntry)
 {
-    writeStrings("<StringTable><hello><default>MMMM</default></hello></StringTable>");
+    writeStrings("<t><String key='hello'><kr>n</kr><en>MMMM</en></String></t>");
     auto* const keyed = bubble();
     keyed->addLable("@hello", "normal", 0, 0, 120, 60);
     auto* const plain = bubble();
-    plain->addLable(Resource::ZELResourceMgr::getInstance()->getLocaleString("@hello"), "normal", 0,
-                    0, 120, 60);
+    plain->addLable("MMMM", "normal", 0, 0, 120, 60);
+    EXPECT_GT(Pixels::count(Pixels::grab(plain), Qt::black), 0);
     EXPECT_TRUE(Pixels::same(Pixels::grab(keyed), Pixels::grab(plain)));
     EXPECT_NE(keyed->getSubComponent("@hello"), nullptr) << "the text as given is the id";
 }
@@ -203,6 +203,38 @@ TEST_F(ZELBubbleDialogTest, aLabelThatAnApplicationDeletedIsPassedOver)
     EXPECT_EQ(visible(made), "");
     made->addLable("c", "normal", 0, 0, 20, 20);
     EXPECT_EQ(visible(made), "c");
+}
+
+TEST_F(ZELBubbleDialogTest, deleteLabelLeavesWhatIsNoLabel)
+{
+    auto* const made = bubble();
+    for (const char* text : {"a", "b"})
+        made->addLable(text, "normal", 0, 0, 20, 20);
+    made->createSubComponent(
+        element("<x><button><push><image up='up.png' down='down.png'/></push></button></x>"));
+    log().startHere();
+    made->deleteLabel();
+    EXPECT_EQ(log().texts("ZELLabel"),
+              (Texts{"[D] deletelabel count 3\n", "[D] deletelabel count ZELImageButton\n",
+                     "[D] deletelabel count ZELLabel\n", "[D] deletelabel count ZELLabel\n"}));
+    ASSERT_EQ(made->getComponentCount(), 1);
+    EXPECT_EQ(made->getSubComponent(0)->m_strID, "push");
+    EXPECT_TRUE(made->getSubComponent(0)->getQWidget()->isHidden()) << "hidden with the labels";
+}
+
+TEST_F(ZELBubbleDialogTest, aTouchOfALabelIsTheLabels)
+{
+    auto* const made = bubble();
+    made->addLable("a", "normal", 10, 10, 40, 20);
+    QWidget* const label = made->getSubComponent("a")->getQWidget();
+    EventRecorder onTheWay;
+    onTheWay.listenAt(made);
+    Touch::tapWindow(label);
+    const RecordedEvent event = onTheWay.takeOne();
+    EXPECT_EQ(event.type, EVENT_MOUSE_UP);
+    EXPECT_EQ(event.id, "a");
+    EXPECT_EQ(event.sender, label);
+    EXPECT_TRUE(panel().take().empty()) << "and ends at the bubble";
 }
 
 TEST_F(ZELBubbleDialogTest, aTouchOfThePictureIsTheBubbles)

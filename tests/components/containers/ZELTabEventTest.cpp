@@ -1,5 +1,6 @@
 #include "components/containers/TabTest.h"
 
+#include "components/lists/ZELList.h"
 #include "events/EventNumbers.h"
 
 using namespace PANFx;
@@ -129,7 +130,7 @@ TEST_F(ZELTabEventTest, handsOnWhatComesFromItsParts)
         for (const Kind kind : {Kind::Event, Kind::Range, Kind::List}) {
             Incoming event{number, kind};
             event.sender = this->panel().window();
-            send(tab, event);
+            EXPECT_TRUE(send(tab, event)) << event;
             const std::vector<RecordedEvent> passed = panel().take();
             const std::vector<RecordedEvent> expected(number < EVENT_MOUSE_DOWN ? 0u : 1u);
             ASSERT_EQ(passed.size(), expected.size());
@@ -165,6 +166,22 @@ TEST_F(ZELTabEventTest, otherClassesOfEventsStopThere)
         EXPECT_TRUE(send(widget, {1600, Kind::Plain}));
         EXPECT_EQ(panel().takeTypes(), Types{});
     }
+}
+
+TEST_F(ZELTabEventTest, whatItDoesNotKnowIsQts)
+{
+    expectWidgetsAnswers(makeTab(pairs(1)));
+}
+
+TEST_F(ZELTabEventTest, aListOnAPageReportsToTheWindowAsIfItLayThere)
+{
+    const std::string listElement =
+        "<lst>" + at(0, 0, 200, 90) + "<image/>" +
+        group("listitem", row("row0", 0, group("button", cell("push", 0)))) + "</lst>";
+    auto* const tab = makeTab(pairs(1, group("list", listElement)));
+    auto* const list = part<Components::ZELList>(tab->getTabPage(0), "lst");
+    Touch::tapWindow(list->getItemComponent(0, 0)->getQWidget());
+    EXPECT_EQ(toldOne(list), "1585 ZELListEvent lst (0, 0)");
 }
 
 TEST_F(ZELTabEventTest, aButtonOnAPageReportsToTheWindowAsIfItLayThere)

@@ -98,10 +98,15 @@ TEST_F(ZELTabPageTest, handsOnEventsOfTheThreeClassesFromThePressUpward)
         for (const Kind kind : {Kind::Event, Kind::Range, Kind::List}) {
             Incoming event{number, kind};
             event.sender = page;
-            send(page, event);
+            EXPECT_TRUE(send(page, event)) << event;
             EXPECT_EQ(panel().takeTypes(), number < 1551 ? Types{} : Types{number}) << event;
         }
     }
+}
+
+TEST_F(ZELTabPageTest, whatItDoesNotKnowIsQts)
+{
+    expectWidgetsAnswers(makePage(""));
 }
 
 TEST_F(ZELTabPageTest, aTouchOfATabThatPassesThroughKeepsItsSender)

@@ -94,6 +94,24 @@ TEST_F(ZELTabTest, anOddNumberOfChildrenThrows)
     log().reset(); // no words about the parts of what was never finished
 }
 
+TEST_F(ZELTabTest, anOddNumberBehindAPairOfWrongTypesIsNotReached)
+{
+    log().expectError("[addTabPage] Type1 : ZELImageButton /// Type2 : ZELTabPage", 1, "ZELTab");
+    auto* const tab =
+        makeTab(pairs(1) + group("button", cell("x", 100)) + page("y") + button("b2", 150));
+    EXPECT_EQ(tab->getComponentCount(), 5);
+    EXPECT_EQ(tab->pairs(), "b0 p0");
+    EXPECT_EQ(tab->getPage(), 0);
+}
+
+TEST_F(ZELTabTest, anOddPartThatComesLaterThrowsAndEarlierPairsStay)
+{
+    auto* const tab = makeTab(pairs(2));
+    tab->createSubComponent(element("<more>" + button("b2", 100) + "</more>"));
+    EXPECT_THROW(tab->addTabPage(), std::out_of_range);
+    EXPECT_EQ(tab->pairs(), "b0 p0, b1 p1");
+}
+
 TEST_F(ZELTabTest, whatItThrowsLeavesThePageThatHoldsIt)
 {
     writeLayout("odd", "<r><Components><tab>" + tabOf(pairs(1) + button("b1")) +
@@ -309,7 +327,7 @@ TEST_F(ZELTabTest, setPageOfTheCurrentPageHidesAndShowsIt)
     tab->setPage(0);
     EXPECT_EQ(watch.seen, "hide show ");
     EventLoop::deliver();
-    EXPECT_GT(paints.count(), 0);
+    EXPECT_EQ(paints.area(), 200 * 150) << "the whole tab, not the page alone";
     EXPECT_EQ(panel().takeTypes(), Types{});
 }
 

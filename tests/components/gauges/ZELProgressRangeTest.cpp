@@ -120,11 +120,14 @@ TEST_F(ZELProgressRangeTest, enablingConcernsTheButtonsAlone)
     auto* const range = level();
     PaintCounter paints(range);
     range->setStep(2);
-    EventLoop::deliver();
+    range->m_pUpBtn->hide(); // where a button is painted anew, so is what lies beneath it
+    range->m_pDownBtn->hide();
     paints.reset();
     for (const bool enable : {false, true}) {
         range->setEnable(enable);
         EXPECT_TRUE(range->isEnabled());
+        EventLoop::deliver();
+        EXPECT_EQ(paints.count(), 0) << enable;
     }
     EXPECT_EQ(range->m_nStep, 2);
 }

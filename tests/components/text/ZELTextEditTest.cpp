@@ -234,6 +234,34 @@ TEST_F(ZELTextEditTest, aChangeOfFocusReleasesTheScrollBar)
     }
 }
 
+TEST_F(ZELTextEditTest, aChangeOfFocusStillReachesTheFieldsOwnHandlers)
+{
+    class Handlers : public TextEdit
+    {
+    public:
+        using TextEdit::TextEdit;
+        std::string seen;
+
+    protected:
+        void focusInEvent(QFocusEvent* event) override
+        {
+            seen += "in ";
+            TextEdit::focusInEvent(event);
+        }
+        void focusOutEvent(QFocusEvent* event) override
+        {
+            seen += "out ";
+            TextEdit::focusOutEvent(event);
+        }
+    };
+    Handlers edit(&panel(), "te", "ZELTextEdit", element("<te/>"));
+    edit.seen.clear();
+    focus(&edit, QEvent::FocusIn);
+    EXPECT_EQ(edit.seen, "in ");
+    focus(&edit, QEvent::FocusOut);
+    EXPECT_EQ(edit.seen, "in out ");
+}
+
 TEST_F(ZELTextEditTest, aPressThatTheScrollBarStillBelievesInEnds)
 {
     auto* const edit = make();
