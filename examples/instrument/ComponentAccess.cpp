@@ -10,6 +10,21 @@ using PANFx::Components::ZELComponent;
 using PANFx::Components::ZELLabel;
 using PANFx::Resource::ZELResourceMgr;
 
+ZELComponent* findComponent(const std::deque<ZELComponent*>& components, const std::string& strID)
+{
+    for (ZELComponent* pComponent : components) {
+        if (pComponent->m_strID == strID)
+            return pComponent;
+        const bool bHolds =
+            pComponent->m_strType == "ZELTab" || pComponent->m_strType == "ZELTabPage";
+        ZELComponent* pInside =
+            bHolds ? findComponent(pComponent->m_dqSubComponents, strID) : nullptr;
+        if (pInside != nullptr)
+            return pInside;
+    }
+    return nullptr;
+}
+
 std::string senderID(QEvent* pEvent)
 {
     const ZELEvent* pReport = ZELEvent::from(pEvent);

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 
+#include <deque>
 #include <string>
 
 class ZELListEvent;
@@ -17,6 +18,11 @@ T* componentAs(PANFx::Components::ZELComponent* pComponent, const char* pszType)
     const bool bFits = pComponent != nullptr && pComponent->m_strType == pszType;
     return bFits ? static_cast<T*>(pComponent) : nullptr;
 }
+
+/// The component of that id among these, or on a page of a tab among them; null if there is none.
+PANFx::Components::ZELComponent*
+findComponent(const std::deque<PANFx::Components::ZELComponent*>& components,
+              const std::string& strID);
 
 /// The id of the component that reports with this event, or "".
 std::string senderID(QEvent* pEvent);

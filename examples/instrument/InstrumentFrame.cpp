@@ -6,10 +6,12 @@
 #include "pages/LanguagePage.h"
 #include "pages/MeasurePage.h"
 #include "pages/NetworkPage.h"
+#include "pages/NotesPage.h"
 #include "pages/ResultsPage.h"
 #include "pages/SamplePage.h"
 #include "pages/SamplesPage.h"
 #include "pages/SettingsPage.h"
+#include "pages/UpdatePage.h"
 #include "sound/ConsoleSound.h"
 
 #include "common/tamfx/FileProperty.h"
@@ -55,6 +57,10 @@ ZELChildWindow* InstrumentFrame::createChildWindow(std::string strID)
         return new SamplesPage(strID, this);
     if (strID == "about")
         return new AboutPage(strID, this);
+    if (strID == "notes")
+        return new NotesPage(strID, this);
+    if (strID == "update")
+        return new UpdatePage(strID, this);
     if (strID == "language")
         return new LanguagePage(strID, this);
     return nullptr;
@@ -64,6 +70,7 @@ void InstrumentFrame::setSettings(const Settings& settings)
 {
     m_settings = settings;
     m_pSound->setTouchSound(settings.bTouchSound);
+    m_pSound->setVolume(settings.nVolume);
 }
 
 QDateTime InstrumentFrame::now() const

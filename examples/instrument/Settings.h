@@ -12,6 +12,8 @@ struct Settings
     bool bAlarmMuted = false;
     bool bStirrerPaused = false;
     std::string strStirrerSpeed = "medium"; ///< name of its radio button
+    int nBrightness = 6;                    ///< step of its range, from 0
+    int nVolume = 2;                        ///< step of its range; 0 is off
     RecordQuery results;                    ///< what the results show
 
     std::string strDateOrder = "ymd"; ///< name of its radio button
@@ -21,4 +23,7 @@ struct Settings
     std::string strOperator = "OP-104";
     std::string strSampleName; ///< of the next sample, UTF-8; empty for a number in its place
     std::string strSampleCode; ///< what was scanned from its label
+    std::string strNotes;      ///< lines of text, UTF-8
+
+    std::string strFirmware = "1.0.0";
 };

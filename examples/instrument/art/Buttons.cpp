@@ -134,8 +134,6 @@ void addButtons(Album& album)
     addBarButton(album, "save", store(), bar, left);
     addBarButton(album, "print", printer(), bar, left);
     addBarButton(album, "clear", bin(), bar, left);
-    addBarButton(album, "bar_clock", clock(), bar, left);
-    addBarButton(album, "bar_network", network(), bar, left);
     addBarButton(album, "bar_sample", tag(), bar, left);
     const QRectF middle(12, 10, 24, 24);
     addBarButton(album, "minus", minus(), QSize(48, 44), middle);

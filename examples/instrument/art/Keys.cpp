@@ -85,6 +85,14 @@ void addDoneKey(Album& album, const std::string& strName, const QSize& size,
         });
 }
 
+QPainterPath nextLine()
+{
+    QPainterPath path;
+    path.addPolygon(QVector<QPointF>{{38, 10}, {38, 28}, {10, 28}});
+    path.addPolygon(QVector<QPointF>{{19, 18}, {9, 28}, {19, 38}});
+    return path;
+}
+
 /// Draws a mark of that size in the middle of a key.
 Inside markOn(const QSize& key, const QPainterPath& icon, int nSize)
 {
@@ -139,7 +147,9 @@ void addKeys(Album& album)
     addKey(album, "key_language", wide, false, [](QPainter& painter, State state) {
         drawMark(painter, globe(), QRectF(14, 14, 24, 24), state, white, 3.6);
     });
-    addDoneKey(album, "key_enter", QSize(144, keyHeight));
+    const QSize enter(144, keyHeight);
+    addDoneKey(album, "key_enter", enter);
+    addKey(album, "key_line", enter, false, markOn(enter, nextLine(), 30));
 }
 
 } // namespace art

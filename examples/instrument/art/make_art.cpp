@@ -2,6 +2,7 @@
 
 #include "Album.h"
 #include "Buttons.h"
+#include "Gauges.h"
 #include "Icons.h"
 #include "Keys.h"
 #include "Lists.h"
@@ -68,6 +69,7 @@ int main(int argc, char** argv)
     addButtons(common);
     addFields(common);
     addKeys(common);
+    addGauges(common);
     addLists(common);
     addIcons(common);
 

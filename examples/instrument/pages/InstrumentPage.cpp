@@ -70,7 +70,7 @@ Analyser& InstrumentPage::analyser()
 
 void InstrumentPage::setText(const std::string& strLabel, const std::string& strText)
 {
-    showText(getSubComponent(strLabel), strText);
+    showText(findComponent(m_dqSubComponents, strLabel), strText);
 }
 
 void InstrumentPage::setDimmed(const std::string& strButton, bool bDimmed)

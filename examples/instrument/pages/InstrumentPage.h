@@ -32,11 +32,12 @@ protected:
     /// The present time by the instrument's clock.
     std::string timeText();
 
-    /// The component of that id, or null if there is none or it is of another type.
+    /// The component of that id, which may lie on a tab, or null if there is none or it is of
+    /// another type.
     template <class T>
     T* component(const std::string& strID, const char* pszType)
     {
-        return componentAs<T>(getSubComponent(strID), pszType);
+        return componentAs<T>(findComponent(m_dqSubComponents, strID), pszType);
     }
 
     void setText(const std::string& strLabel, const std::string& strText);

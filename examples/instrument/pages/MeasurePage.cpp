@@ -3,6 +3,7 @@
 #include "InstrumentFrame.h"
 
 #include "components/buttons/ZELImageButton.h"
+#include "components/gauges/ZELRoundProgressBar.h"
 #include "components/pictures/ZELChartImageBox.h"
 #include "components/pictures/ZELPieImageBox.h"
 #include "components/text/ZELLabel.h"
@@ -15,12 +16,14 @@ using PANFx::Components::ZELChartImageBox;
 using PANFx::Components::ZELImageButton;
 using PANFx::Components::ZELLabel;
 using PANFx::Components::ZELPieImageBox;
+using PANFx::Components::ZELRoundProgressBar;
 using PANFx::Resource::SoundFactory;
 
 namespace {
 
 const int chartMargin = 10; // pixels between the edge of the chart and its line
 const int holdTime = 5;     // readings
+const int meanLength = 5;   // readings of which a mean is taken
 const int fastSteps = 10;   // of the limit, at each tick of a button that is held for long
 
 } // namespace
@@ -38,6 +41,7 @@ void MeasurePage::activating()
 {
     m_nHeld = 0;
     m_bStepped = false;
+    m_bAveraging = false;
     InstrumentPage::activating();
 }
 
@@ -58,9 +62,11 @@ bool MeasurePage::event(QEvent* pEvent)
         m_pFrame->moveTo("sample", true, true);
     } else if (strID == "save") {
         save();
+    } else if (strID == "mean") {
+        startMean();
     } else if (!choose(strID)) {
         if (pEvent->type() == EVENT_READING)
-            m_nHeld = std::max(0, m_nHeld - 1);
+            takeReading();
         return InstrumentPage::event(pEvent);
     }
     return true;
@@ -88,18 +94,47 @@ void MeasurePage::stepLimit(const std::string& strID, int nSteps)
 
 void MeasurePage::save()
 {
-    Settings settings = m_pFrame->settings();
-    std::array<double, 4> values = {};
+    Values values = {};
     for (std::size_t n = 0; n < values.size(); ++n)
         values[n] = m_shown[n].readings.back();
+    store(values);
+    if (m_pFrame->settings().bAutoHold)
+        m_nHeld = holdTime;
+    showValues();
+}
+
+void MeasurePage::startMean()
+{
+    m_bAveraging = true;
+    m_nTaken = 0;
+    m_sums = {};
+    showValues();
+}
+
+// The last reading of a mean stores it.
+void MeasurePage::takeReading()
+{
+    m_nHeld = std::max(0, m_nHeld - 1);
+    if (!m_bAveraging)
+        return;
+    for (std::size_t n = 0; n < m_sums.size(); ++n)
+        m_sums[n] += analyser().channels()[n].readings.back();
+    if (++m_nTaken < meanLength)
+        return;
+    m_bAveraging = false;
+    for (double& dSum : m_sums)
+        dSum /= meanLength;
+    store(m_sums);
+}
+
+void MeasurePage::store(const Values& values)
+{
     m_pFrame->records().store(m_pFrame->now(), sampleName(), values);
+    Settings settings = m_pFrame->settings();
     settings.strSampleName.clear();
     settings.strSampleCode.clear();
     m_pFrame->setSettings(settings);
     SoundFactory::getInstance()->playCompleteSound();
-    if (m_pFrame->settings().bAutoHold)
-        m_nHeld = holdTime;
-    showValues();
 }
 
 std::string MeasurePage::sampleName() const
@@ -122,7 +157,8 @@ void MeasurePage::showValues()
     InstrumentPage::showValues();
     if (m_nHeld == 0)
         m_shown = analyser().channels();
-    setDimmed("save", m_nHeld > 0);
+    setDimmed("save", m_nHeld > 0 || m_bAveraging);
+    showMean();
     showSample();
     showButtons();
     const Analyser::Channel& channel = m_shown[m_nChannel];
@@ -154,6 +190,13 @@ void MeasurePage::showButtons()
     }
 }
 
+void MeasurePage::showMean()
+{
+    setDimmed("mean", m_bAveraging);
+    if (auto* pProgress = component<ZELRoundProgressBar>("mean.progress", "ZELRoundProgress"))
+        pProgress->SetPercent(m_bAveraging ? 100 * m_nTaken / meanLength : 0);
+}
+
 void MeasurePage::showGauge(const Analyser::Channel& channel)
 {
     const double dReading = channel.readings.back();
@@ -178,7 +221,10 @@ void MeasurePage::showState(const Analyser::Channel& channel)
         if (auto* pLabel = component<ZELLabel>(pszLabel, "ZELLabel"))
             pLabel->setFontStyle(bAbove ? 1 : 0);
     }
-    setText("state", bAbove ? localText("@above") : m_nHeld > 0 ? localText("@held") : "");
+    setText("state", bAbove         ? localText("@above")
+                     : m_bAveraging ? localText("@averaging")
+                     : m_nHeld > 0  ? localText("@held")
+                                    : "");
     setText("limit", Analyser::text(channel, dLimit));
 }
 

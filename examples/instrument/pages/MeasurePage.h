@@ -3,6 +3,9 @@
 #include "Analyser.h"
 #include "pages/InstrumentPage.h"
 
+#include <array>
+#include <vector>
+
 /// Live readings: one channel large, with its gauge, trend and upper limit; the buttons at the
 /// bottom choose another.
 class MeasurePage : public InstrumentPage
@@ -17,9 +20,14 @@ protected:
     void showValues() override;
 
 private:
+    using Values = std::array<double, 4>; ///< in the order of the channels
+
     bool choose(const std::string& strID);
     void stepLimit(const std::string& strID, int nSteps);
     void save();
+    void startMean();
+    void takeReading();
+    void store(const Values& values);
 
     /// What the next measurement is called: the name typed, the code scanned, or "".
     std::string sampleName() const;
@@ -27,12 +35,16 @@ private:
     void showChoice(std::size_t nChannel, bool bChosen);
     void showSample();
     void showButtons();
+    void showMean();
     void showGauge(const Analyser::Channel& channel);
     void showState(const Analyser::Channel& channel);
     void showTrend(const Analyser::Channel& channel);
 
     std::vector<Analyser::Channel> m_shown; ///< the readings on the page
     std::size_t m_nChannel = 0;             ///< the one that is shown large
+    Values m_sums = {};                     ///< of the readings that a mean is taken of
+    int m_nTaken = 0;                       ///< how many these are
+    bool m_bAveraging = false;              ///< a mean is being taken
     int m_nHeld = 0;                        ///< readings for which those on the page stand still
     bool m_bStepped = false;                ///< the button that is held has stepped already
 };

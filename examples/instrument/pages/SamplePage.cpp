@@ -76,14 +76,19 @@ bool SamplePage::event(QEvent* pEvent)
     }
     if (!strID.empty())
         m_recent.close();
-    if (strID == "back")
+    if (strID == "back") {
         m_pFrame->moveBack(true);
-    else if (strID == "enter")
-        finish();
-    else if (isEnter(pEvent))
+    } else if (strID == "enter") {
+        keep();
+        m_pFrame->moveBack(true);
+    } else if (strID == "go_notes") {
+        keep(); // the page comes back with what is kept
+        m_pFrame->moveTo("notes", true, true);
+    } else if (isEnter(pEvent)) {
         takeCode();
-    else
+    } else {
         return KeyboardPage::event(pEvent);
+    }
     return true;
 }
 
@@ -121,7 +126,7 @@ void SamplePage::takeCode()
     m_pCode->update();
 }
 
-void SamplePage::finish()
+void SamplePage::keep()
 {
     Settings settings = m_pFrame->settings();
     if (m_pName != nullptr)
@@ -129,5 +134,4 @@ void SamplePage::finish()
     if (m_pCode != nullptr)
         settings.strSampleCode = m_pCode->text().toStdString();
     m_pFrame->setSettings(settings);
-    m_pFrame->moveBack(true);
 }

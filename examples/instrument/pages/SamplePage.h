@@ -29,7 +29,7 @@ protected:
 
 private:
     void takeCode();
-    void finish();
+    void keep();
 
     PANFx::Components::ZELLineEdit* m_pName;
     PANFx::Components::ZELLineEdit* m_pCode;

@@ -2,15 +2,13 @@
 
 #include <cstdio>
 
-namespace {
-
-void write(const std::string& strSound)
+void ConsoleSound::write(const std::string& strSound) const
 {
-    std::printf("sound: %s\n", strSound.c_str());
+    if (m_nVolume == 0)
+        return;
+    std::printf("sound: %s, volume %d\n", strSound.c_str(), m_nVolume);
     std::fflush(stdout);
 }
-
-} // namespace
 
 void ConsoleSound::playSound(std::string strSound, int nFirst, int nSecond)
 {

@@ -6,6 +6,7 @@
 Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen)
     : StepList(screen)
     , m_frame(frame)
+    , m_settings(frame, screen)
     , m_typing(frame, screen)
     , m_lists(frame, screen)
 {
@@ -68,7 +69,8 @@ void Itinerary::settings()
 void Itinerary::calibration()
 {
     const QDate before = analyser().calibrationDate();
-    add("calibration", "settings", {tap("calibrate"), tick("", 9)}).strDialog = "calibration";
+    add("calibration", "settings", {tap("tab_sensor"), tap("calibrate"), tick("", 9)}).strDialog =
+        "calibration";
     claim(add("calibration-cancelled", "settings", {tap("cancel")}), "the date is the old one",
           [this, before] { return analyser().calibrationDate() == before; });
     claim(add("calibrated", "settings", {tap("calibrate"), tick("", 24)}), "the date is a new one",
@@ -102,9 +104,10 @@ void Itinerary::korean()
     add("korean-results", "results", {goHome(), tap("results")});
     add("korean-question", "results", {tap("clear")}).strDialog = "question";
     add("korean-settings", "settings", {tap("no"), goHome(), tap("settings")});
-    add("korean-calibration", "settings", {tap("calibrate"), tick("", 9)}).strDialog =
-        "calibration";
-    add("korean-clock", "clock", {tap("cancel"), tap("go_clock")});
+    append(m_settings.languageSteps("korean", m_strLocale));
+    add("korean-calibration", "settings", {tap("tab_sensor"), tap("calibrate"), tick("", 9)})
+        .strDialog = "calibration";
+    add("korean-clock", "clock", {tap("cancel"), tap("tab_system"), tap("go_clock")});
     add("korean-network", "network", {tap("back"), tap("go_network"), tap("address")});
     add("korean-sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
     append(m_lists.stepsIn("korean", m_strLocale));
@@ -120,6 +123,7 @@ void Itinerary::otherLanguages()
         addLanguage(pszName, pszLocale);
         const std::string strPrefix = std::string(pszName) + "-";
         add(strPrefix + "settings", "settings", {tap("settings")});
+        append(m_settings.languageSteps(pszName, pszLocale));
         add(strPrefix + "clock", "clock", {tap("go_clock")});
         add(strPrefix + "network", "network", {tap("back"), tap("go_network"), tap("address")});
         add(strPrefix + "sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
@@ -145,6 +149,7 @@ std::vector<TourStep> Itinerary::steps()
     settings();
     calibration();
     saving();
+    append(m_settings.steps());
     append(m_typing.steps());
     append(m_lists.steps());
     korean();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tour/ListItinerary.h"
+#include "tour/SettingsItinerary.h"
 #include "tour/StepList.h"
 #include "tour/TypingItinerary.h"
 
@@ -35,6 +36,7 @@ private:
     Analyser& analyser();
 
     InstrumentFrame& m_frame;
+    SettingsItinerary m_settings;
     TypingItinerary m_typing;
     ListItinerary m_lists;
 };

@@ -5,9 +5,13 @@
 
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
+#include "components/containers/ZELTab.h"
 #include "components/editors/ZELImageEdit.h"
+#include "components/gauges/ZELProgressBar.h"
+#include "components/gauges/ZELRange.h"
 #include "components/lists/ZELListScroll.h"
 #include "components/text/ZELLineEdit.h"
+#include "components/text/ZELTextEdit.h"
 #include "events/Timer.h"
 #include "windows/ZELChildWindow.h"
 #include "windows/ZELPopupWindow.h"
@@ -15,6 +19,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTimerEvent>
 
 using PANFx::Components::Timer;
@@ -23,6 +28,10 @@ using PANFx::Components::ZELImageButton;
 using PANFx::Components::ZELImageEdit;
 using PANFx::Components::ZELLineEdit;
 using PANFx::Components::ZELListScroll;
+using PANFx::Components::ZELProgressBar;
+using PANFx::Components::ZELRange;
+using PANFx::Components::ZELTab;
+using PANFx::Components::ZELTextEdit;
 using PANFx::Windows::ZELChildWindow;
 using PANFx::Windows::ZELPopupWindow;
 
@@ -72,7 +81,8 @@ void Screen::activate()
 
 namespace {
 
-/// A part of a component by its id: the parts that a scroll makes itself are widgets in it only.
+/// A part of a component by its id: those that a scroll or a range makes itself are widgets in
+/// it only.
 ZELComponent* partOf(ZELComponent& whole, const std::string& strID)
 {
     if (ZELComponent* pPart = whole.getSubComponent(strID))
@@ -94,8 +104,9 @@ ZELComponent* Screen::find(const std::string& strID)
     ZELPopupWindow* pDialog = findDialog();
     ZELChildWindow* pPage = m_frame.getCurrentWindow();
     ZELComponent* pComponent = pDialog != nullptr ? pDialog->getSubComponent(strOuter)
-                               : pPage != nullptr ? pPage->getSubComponent(strOuter)
-                                                  : nullptr;
+                               : pPage != nullptr
+                                   ? findComponent(pPage->m_dqSubComponents, strOuter)
+                                   : nullptr;
     while (pComponent != nullptr && nSlash != std::string::npos) {
         const std::size_t nStart = nSlash + 1;
         nSlash = strID.find('/', nStart);
@@ -112,8 +123,16 @@ void Screen::press(const std::string& strID)
     if (pComponent == nullptr)
         return;
     QWidget* pWidget = pComponent->getQWidget();
-    m_window = pWidget->window()->windowHandle();
-    m_finger = pWidget->mapTo(pWidget->window(), pWidget->rect().center());
+    if (pWidget->isVisible())
+        press(*pWidget, pWidget->rect().center());
+    else if (m_strMissing.empty())
+        m_strMissing = strID + " to be seen";
+}
+
+void Screen::press(QWidget& widget, const QPoint& place)
+{
+    m_window = widget.window()->windowHandle();
+    m_finger = widget.mapTo(widget.window(), place);
     send(QEvent::MouseButtonPress);
 }
 
@@ -139,9 +158,18 @@ void Screen::tap(const std::string& strID)
     release();
 }
 
+void Screen::tapScrollBar(const std::string& strID)
+{
+    if (auto* pEdit = componentAs<ZELTextEdit>(find(strID), "ZELTextEdit")) {
+        QScrollBar* pBar = pEdit->verticalScrollBar();
+        press(*pBar, QPoint(pBar->width() / 2, 4));
+        release();
+    }
+}
+
 void Screen::tick(const std::string& strID, int nTicks)
 {
-    QWidget* pOwner = findDialog();
+    QWidget* pOwner = top();
     if (!strID.empty()) {
         ZELComponent* pComponent = find(strID);
         pOwner = pComponent != nullptr ? pComponent->getQWidget() : nullptr;
@@ -160,15 +188,23 @@ void Screen::tick(const std::string& strID, int nTicks)
 
 void Screen::scan(const QString& strCode)
 {
+    type(strCode + QLatin1Char('\n'));
+}
+
+void Screen::type(const QString& strText)
+{
     const auto strike = [this](int nKey, const QString& strText) {
         for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
             QKeyEvent event(type, nKey, Qt::NoModifier, strText);
             QCoreApplication::sendEvent(m_frame.windowHandle(), &event);
         }
     };
-    for (const QChar letter : strCode)
-        strike(letter.toUpper().unicode(), letter);
-    strike(Qt::Key_Return, QStringLiteral("\r"));
+    for (const QChar letter : strText) {
+        if (letter == QLatin1Char('\n'))
+            strike(Qt::Key_Return, QStringLiteral("\r"));
+        else
+            strike(letter.toUpper().unicode(), letter);
+    }
 }
 
 std::string Screen::text(const std::string& strID)
@@ -180,8 +216,23 @@ std::string Screen::text(const std::string& strID)
         return pScroll->getPageNumbering();
     if (auto* pButton = componentAs<ZELImageButton>(pComponent, "ZELImageButton"))
         return pButton->getTitle();
+    if (auto* pNotes = componentAs<ZELTextEdit>(pComponent, "ZELTextEdit"))
+        return pNotes->toPlainText().toStdString();
     auto* pEdit = dynamic_cast<ZELImageEdit*>(pComponent);
     return pEdit != nullptr ? pEdit->text() : "";
+}
+
+int Screen::number(const std::string& strID)
+{
+    ZELComponent* pComponent = find(strID);
+    if (auto* pGauge = dynamic_cast<ZELProgressBar*>(pComponent))
+        return pGauge->value();
+    if (auto* pRange = dynamic_cast<ZELRange*>(pComponent))
+        return pRange->getStep();
+    if (auto* pTab = componentAs<ZELTab>(pComponent, "ZELTab"))
+        return pTab->getPage();
+    auto* pNotes = componentAs<ZELTextEdit>(pComponent, "ZELTextEdit");
+    return pNotes != nullptr ? pNotes->verticalScrollBar()->value() : -1;
 }
 
 bool Screen::isVisible(const std::string& strID)

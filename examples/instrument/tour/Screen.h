@@ -36,22 +36,32 @@ public:
     /// Gives the window on top the keys, as a window system does once another one has closed.
     void activate();
 
-    /// Puts the finger on the middle of a component of the dialog, or else of the page; one inside
-    /// of others is called "group/component" or "list/row/cell".
+    /// Puts the finger on the middle of a component of the dialog, or else of the page, also on a
+    /// tab that is shown; one inside of others is called "group/component" or "list/row/cell".
     void press(const std::string& strID);
     void release();
     void tap(const std::string& strID);
 
-    /// Turns the clock of a component, or of the dialog for "", on by so many ticks. They go the
-    /// way of a real one: through its timer, which posts them. One that stands still has none.
+    /// Touches the scroll bar of a text edit above what it shows.
+    void tapScrollBar(const std::string& strID);
+
+    /// Turns the clock of a component, or for "" of what is on top, on by so many ticks. They go
+    /// the way of a real one: through its timer, which posts them. One that stands still has none.
     void tick(const std::string& strID, int nTicks);
 
     /// Sends keys as a scanner does that acts as a keyboard, the enter key at the end.
     void scan(const QString& strCode);
 
+    /// Sends keys as an attached keyboard does; a line feed is the enter key.
+    void type(const QString& strText);
+
     /// What a field holds, UTF-8; of a line edit what was typed or scanned into it. Also the title
     /// of a button, and the page and total of a page turner.
     std::string text(const std::string& strID);
+
+    /// What a gauge or a range shows, the tab that is up, or how far a text edit is scrolled; -1
+    /// for any other component.
+    int number(const std::string& strID);
 
     /// Whether a component is to be seen.
     bool isVisible(const std::string& strID);
@@ -67,6 +77,7 @@ private:
     QWidget* top();
     PANFx::Windows::ZELPopupWindow* findDialog();
     PANFx::Components::ZELComponent* find(const std::string& strID);
+    void press(QWidget& widget, const QPoint& place);
     void send(QEvent::Type type);
 
     InstrumentFrame& m_frame;

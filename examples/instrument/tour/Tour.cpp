@@ -72,8 +72,9 @@ void Tour::proceed()
     const TourStep::Action& action = actions[m_nAction++];
     m_clock.start();
     const bool bLast = m_nAction == actions.size();
-    goOn(std::max(action.nTime, bLast ? pushTime : actionTime));
     action.run();
+    // from here, so that what the action has posted comes first however long the action took
+    goOn(std::max(action.nTime, bLast ? pushTime : actionTime));
 }
 
 void Tour::finishStep()
@@ -104,7 +105,7 @@ std::string Tour::fault(const QImage& image)
     const std::string strDialog = m_screen.dialog();
     const std::string strLocale = ZELResourceMgr::getInstance()->m_strLocale;
     if (!m_screen.missing().empty())
-        return "there is no component " + m_screen.missing();
+        return "there is no component " + m_screen.missing() + " on page " + strPage;
     if (strPage != step.strPage)
         return "page " + strPage + " is on screen, not " + step.strPage;
     if (strDialog != step.strDialog)

@@ -71,7 +71,8 @@ void TypingItinerary::addName(const std::string& strName, Actions actions,
 
 void TypingItinerary::held()
 {
-    claim(add("clock", "clock", {goHome(), tap("settings"), tap("go_clock")}), "there is no pad",
+    claim(add("clock", "clock", {goHome(), tap("settings"), tap("tab_system"), tap("go_clock")}),
+          "there is no pad",
           [this] { return !m_screen.isVisible("pad") && !m_screen.isEnabled("set"); });
     claim(add("pad", "clock", {tap("date")}), "the pad is up, without a key for times",
           [this] { return m_screen.isVisible("pad") && !m_screen.isVisible("pad/ampm"); });

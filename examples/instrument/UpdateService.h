@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QEvent>
+
+#include <condition_variable>
+#include <mutex>
+#include <string>
+#include <thread>
+
+class QObject;
+
+/// Posted as a ZELUpdateInfoEvent: the images of the new software with their versions.
+constexpr QEvent::Type EVENT_UPDATE_INFO = QEvent::Type(2002);
+
+/// Posted as a ZELUpdateStatusEvent: how far each of them has been loaded.
+constexpr QEvent::Type EVENT_UPDATE_STATUS = QEvent::Type(2003);
+
+/// Loads new software, simulated, in a thread of its own. The thread touches nothing of its
+/// receiver but posts events to it. All operations belong to the thread of the receiver.
+class UpdateService
+{
+public:
+    /// The receiver must outlive the service.
+    explicit UpdateService(QObject& receiver);
+
+    /// Stops.
+    ~UpdateService();
+
+    UpdateService(const UpdateService&) = delete;
+    UpdateService& operator=(const UpdateService&) = delete;
+
+    /// Posts the images and their versions, without loading them.
+    void announce();
+
+    /// Begins to load, from the start again if it is loading already.
+    void start();
+
+    /// Ends the thread, at once. No status of it comes any more.
+    void stop();
+
+    static constexpr int imageCount = 4;
+    static const std::string& version(); ///< of the new software
+
+private:
+    void load();
+    bool pause();
+
+    QObject& m_receiver;
+    std::thread m_thread;
+    std::mutex m_mutex;
+    std::condition_variable m_stopped;
+    bool m_bStop = false; ///< guarded by m_mutex
+};
