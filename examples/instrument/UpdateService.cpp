@@ -11,7 +11,7 @@
 
 namespace {
 
-const std::chrono::milliseconds tick(60);
+const std::chrono::milliseconds tick(40);
 const int tickPercent = 5; // of the image that is being loaded
 
 /// The status once so many percent of all images, one after the other, have been loaded.

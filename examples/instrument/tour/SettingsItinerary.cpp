@@ -5,7 +5,7 @@
 
 namespace {
 
-const int halfUpdate = 1900; // milliseconds
+const int halfUpdate = 1200; // milliseconds
 const int wholeUpdate = 5100;
 const char firmware[] = "1.0.0"; // that the instrument begins with
 

@@ -69,10 +69,19 @@ void Tour::proceed()
         finishStep();
         return;
     }
-    const TourStep::Action& action = actions[m_nAction++];
-    m_clock.start();
-    const bool bLast = m_nAction == actions.size();
+    const TourStep::Action& action = actions[m_nAction];
+    if (!m_bWaits)
+        m_clock.start();
+    const bool bLast = m_nAction + 1 == actions.size();
     action.run();
+    // on a busy machine a page comes late; what is missing has not been touched
+    m_bWaits = !m_screen.missing().empty() && m_clock.elapsed() < settleLimit;
+    if (m_bWaits) {
+        m_screen.forgetMissing();
+        goOn(settleCheck);
+        return;
+    }
+    ++m_nAction;
     // from here, so that what the action has posted comes first however long the action took
     goOn(std::max(action.nTime, bLast ? pushTime : actionTime));
 }

@@ -40,6 +40,7 @@ private:
     std::vector<TourStep> m_steps;
     std::size_t m_nStep = 0;
     std::size_t m_nAction = 0;
+    bool m_bWaits = false; ///< for something that an action has not found
     int m_nFailed = 0;
     QElapsedTimer m_clock; ///< since the last action of the step
     QObject m_life;        ///< timers end with it
