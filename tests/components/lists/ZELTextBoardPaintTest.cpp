@@ -176,11 +176,11 @@ TEST_F(ZELTextBoardPaintTest, aWordThatIsTooLongMayWrap)
 TEST_F(ZELTextBoardPaintTest, aHangingWordThatIsTooLongWrapsAtTheRightEdgeOfTheBoard)
 {
     Board* const board = boardOf(10, 8, 2);
-    board->setText("cccccccc aaaaa-bbbb"); // the second fits the board and not what hangs
+    board->setText("cccccccc aaaa-bbbb"); // the second fits the board and not what hangs
     ASSERT_EQ(board->m_lstLines.size(), 2);
     QImage expected = empty();
     expectLine(expected, board, 1, 0, QStringLiteral("cccccccc "));
-    expectLine(expected, board, 2, board->m_nIndent, QStringLiteral("aaaaa-bbbb "));
+    expectLine(expected, board, 2, board->m_nIndent, QStringLiteral("aaaa-bbbb "));
     const QImage image = painted(board);
     EXPECT_TRUE(Pixels::same(image, expected));
     const QRect rowBelow(0, 20 + 3 * board->m_nLineHeight, 490, board->m_nLineHeight);
