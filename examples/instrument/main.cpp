@@ -6,6 +6,7 @@
 #include "resource/ZELResourceMgr.h"
 
 #include <QApplication>
+#include <QFont>
 
 #include <cstdio>
 #include <cstring>
@@ -66,6 +67,14 @@ void prepareEnvironment(const Options& options)
         setDefault("QT_QPA_PLATFORM", "offscreen");
 }
 
+// Reports are drawn in the instrument's font, which a development machine need not have.
+void standInForPrintFont()
+{
+    QFont::insertSubstitutions(
+        QStringLiteral("Droid Sans Mono"),
+        {QStringLiteral("DejaVu Sans Mono"), QStringLiteral("WenQuanYi Micro Hei")});
+}
+
 int runTour(const char* pszDir)
 {
     ZELResourceMgr::getInstance()->changeLocale(""); // whatever was chosen last
@@ -94,6 +103,7 @@ int main(int argc, char** argv)
     }
     prepareEnvironment(options);
     QApplication application(argc, argv);
+    standInForPrintFont();
     const int nResult = options.pszTour != nullptr ? runTour(options.pszTour) : runPanel();
     ComponentFactory::destroyInstance();
     SoundFactory::destroyInstance();

@@ -131,6 +131,7 @@ void addButtons(Album& album)
     const QSize bar(144, 40);
     const QRectF left(12, 8, 24, 24);
     addBarButton(album, "back", arrowBack(), QSize(64, 40), QRectF(18, 6, 28, 28));
+    addBarButton(album, "camera", camera(), QSize(48, 40), QRectF(11, 7, 26, 26));
     addBarButton(album, "save", store(), bar, left);
     addBarButton(album, "print", printer(), bar, left);
     addBarButton(album, "clear", bin(), bar, left);

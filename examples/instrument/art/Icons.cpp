@@ -195,6 +195,15 @@ QPainterPath printer()
     return path;
 }
 
+QPainterPath camera()
+{
+    QPainterPath path;
+    addLine(path, {{6, 15}, {15, 15}, {19, 9}, {29, 9}, {33, 15}, {42, 15}, {42, 39}, {6, 39}});
+    path.closeSubpath();
+    path.addEllipse(QPointF(24, 26), 7, 7);
+    return path;
+}
+
 QPainterPath bin()
 {
     QPainterPath path;

@@ -23,6 +23,7 @@ QPainterPath plus();
 QPainterPath minus();
 QPainterPath store();
 QPainterPath printer();
+QPainterPath camera();
 QPainterPath bin();
 QPainterPath bell();
 QPainterPath stirrer();

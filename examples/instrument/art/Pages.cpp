@@ -97,21 +97,23 @@ QImage dialog(const QSize& size, const QRectF& panel)
     return image;
 }
 
-QImage questionDialog()
+/// A badge, two lines beside it, and a row of buttons.
+QImage badgeDialog(const QPainterPath& icon, const QColor& color)
 {
     QImage image = dialog(pageSize, QRectF(152, 128, 496, 224));
     QPainter painter(&image);
-    painter.drawImage(176, 152, badge(bin(), 64, coral));
+    painter.drawImage(176, 152, badge(icon, 64, color));
     return image;
 }
 
-QImage calibrationDialog()
+/// A groove for a ring with a drawing in its middle, two lines beside it, and a button.
+QImage waitDialog(const QPainterPath& icon)
 {
     QImage image = dialog(pageSize, QRectF(152, 112, 496, 256));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     drawGroove(painter, QPointF(176, 140), waitSize, waitPen);
-    drawIcon(painter, flask(), QRectF(206, 170, 44, 44), white, 3.4);
+    drawIcon(painter, icon, QRectF(206, 170, 44, 44), white, 3.4);
     return image;
 }
 
@@ -153,8 +155,10 @@ void addPages(Album& album)
     album.add("page_language", page());
     album.add("page_sample", samplePage());
     album.add("pad_panel", padPanel());
-    album.add("dialog_question", questionDialog());
-    album.add("dialog_calibration", calibrationDialog());
+    album.add("dialog_question", badgeDialog(bin(), coral));
+    album.add("dialog_picture", badgeDialog(camera(), violet));
+    album.add("dialog_calibration", waitDialog(flask()));
+    album.add("dialog_print", waitDialog(printer()));
     album.add("chart", chart());
 }
 

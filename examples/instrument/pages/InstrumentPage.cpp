@@ -2,8 +2,13 @@
 
 #include "Calendar.h"
 #include "InstrumentFrame.h"
+#include "dialogs/PictureDialog.h"
 
+#include "common/systemPath.h"
 #include "components/buttons/ZELImageButton.h"
+#include "print/Capture.h"
+
+#include <QFile>
 
 #include <algorithm>
 
@@ -42,10 +47,25 @@ void InstrumentPage::mountCaptions()
 
 bool InstrumentPage::event(QEvent* pEvent)
 {
+    if (touchedID(pEvent) == "camera") {
+        savePicture();
+        return true;
+    }
     if (pEvent->type() != EVENT_READING)
         return ZELChildWindow::event(pEvent);
     showValues();
     return true;
+}
+
+// The page's own CaptureView() would do as well, but it doesn't tell the name that it takes.
+void InstrumentPage::savePicture()
+{
+    const QString strStamp = m_pFrame->now().toString(QStringLiteral("yyMMdd_HHmmss"));
+    const std::string strPath = "/tmp/screen_" + m_strID + "_" + strStamp.toStdString() + ".jpg";
+    const QString strFile = QFile::decodeName(PANFx::Common::systemPath(strPath).c_str());
+    QFile::remove(strFile); // failures are not reported: it is there afterwards, or it is not
+    Capture::viewCapture(100, strPath.c_str());
+    PictureDialog(m_pFrame, strPath, QFile::exists(strFile)).exec();
 }
 
 void InstrumentPage::showValues()

@@ -9,7 +9,8 @@
 class Analyser;
 class InstrumentFrame;
 
-/// What the pages of this instrument share: the frame, the clock, and short ways to components.
+/// What the pages of this instrument share: the frame, the clock, short ways to components, and a
+/// picture of the screen for a page with a button "camera".
 class InstrumentPage : public PANFx::Windows::ZELChildWindow
 {
 public:
@@ -49,4 +50,5 @@ protected:
 
 private:
     void mountCaptions();
+    void savePicture();
 };

@@ -2,7 +2,9 @@
 
 #include "Calendar.h"
 #include "InstrumentFrame.h"
+#include "dialogs/PrintDialog.h"
 #include "dialogs/QuestionDialog.h"
+#include "report/Report.h"
 
 #include "components/buttons/ZELCheckButton.h"
 #include "components/editors/ZELImageEdit.h"
@@ -51,7 +53,6 @@ void ResultsPage::activating()
         m_selected.insert(record.nID);
     m_list.rewind();
     fillList();
-    setDimmed("print", true); // until there is a printer
 }
 
 bool ResultsPage::event(QEvent* pEvent)
@@ -77,6 +78,8 @@ bool ResultsPage::touch(const std::string& strID)
         changeUnit();
     else if (strID == "samples")
         m_pFrame->moveTo("samples", true, true);
+    else if (strID == "print")
+        print();
     else if (strID == "clear")
         askToClear();
     else
@@ -193,6 +196,19 @@ void ResultsPage::changeUnit()
     fillList();
 }
 
+// What is selected, or else what is to be seen: all that is stored would be metres of paper.
+std::vector<Record> ResultsPage::recordsToPrint() const
+{
+    return m_selected.empty() ? m_shown : selectedRecords();
+}
+
+void ResultsPage::print()
+{
+    const Settings& settings = m_pFrame->settings();
+    const ReportHead head{m_pFrame->now(), settings.strDateOrder, settings.strOperator};
+    PrintDialog(m_pFrame, reportText(head, analyser().channels(), recordsToPrint())).exec();
+}
+
 // Deletes what is selected, or all that the list shows when nothing is.
 void ResultsPage::askToClear()
 {
@@ -291,6 +307,7 @@ void ResultsPage::showSelection()
     }
     setText("count",
             (nSelected > 0 ? std::to_string(nSelected) + " / " : "") + std::to_string(m_nCount));
+    setDimmed("print", m_nCount == 0);
     setDimmed("clear", m_nCount == 0);
 }
 

@@ -8,8 +8,8 @@
 #include <set>
 
 /// The stored measurements as a list with pages: to be sorted by time or temperature, cut down to
-/// samples, selected and deleted. Beside it the mean values; a touch on the mean temperature
-/// changes its unit.
+/// samples, selected, printed and deleted. Beside it the mean values; a touch on the mean
+/// temperature changes its unit.
 class ResultsPage : public InstrumentPage
 {
 public:
@@ -19,6 +19,9 @@ public:
 
     /// The selected measurements, in the order of the list; those of all pages of it.
     std::vector<Record> selectedRecords() const;
+
+    /// What a report holds: the selected measurements, or else those that are to be seen.
+    std::vector<Record> recordsToPrint() const;
 
     /// The measurements on the page of the list that is to be seen.
     const std::vector<Record>& shownRecords() const { return m_shown; }
@@ -35,6 +38,7 @@ private:
     void sort(int nColumn);
     void filter();
     void changeUnit();
+    void print();
     void askToClear();
 
     const RecordQuery& query() const;

@@ -3,12 +3,23 @@
 #include "InstrumentFrame.h"
 #include "tour/Screen.h"
 
-Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen)
+namespace {
+
+// A report takes its time, so the tour prints where there is something else to see on it.
+bool hasLettersOfItsOwn(const std::string& strLocale)
+{
+    return strLocale == "ger" || strLocale == "rus" || strLocale == "chn";
+}
+
+} // namespace
+
+Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen, const QString& strDir)
     : StepList(screen)
     , m_frame(frame)
     , m_settings(frame, screen)
     , m_typing(frame, screen)
     , m_lists(frame, screen)
+    , m_printing(frame, screen, strDir)
 {
 }
 
@@ -39,9 +50,8 @@ void Itinerary::limit()
 
 void Itinerary::results()
 {
-    claim(add("results", "results", {goHome(), tap("results"), tap("print")}),
-          "only what works is enabled",
-          [this] { return !m_screen.isEnabled("print") && m_screen.isEnabled("clear"); });
+    claim(add("results", "results", {goHome(), tap("results")}), "there is something to print",
+          [this] { return m_screen.isEnabled("print") && m_screen.isEnabled("clear"); });
     add("question", "results", {tap("clear")}).strDialog = "question";
     add("question-pressed", "results", {press("no")}).strDialog = "question";
     claim(add("question-no", "results", {release()}), "the results are still there",
@@ -112,6 +122,7 @@ void Itinerary::korean()
     add("korean-sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
     append(m_lists.stepsIn("korean", m_strLocale));
     add("korean-language", "language", {goHome(), tap("language")});
+    append(m_printing.inLanguage("korean", m_strLocale));
 }
 
 void Itinerary::otherLanguages()
@@ -128,6 +139,8 @@ void Itinerary::otherLanguages()
         add(strPrefix + "network", "network", {tap("back"), tap("go_network"), tap("address")});
         add(strPrefix + "sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
         append(m_lists.stepsIn(pszName, pszLocale));
+        if (hasLettersOfItsOwn(pszLocale))
+            append(m_printing.inLanguage(pszName, pszLocale));
     }
     addLanguage("english", "");
 }
@@ -135,8 +148,10 @@ void Itinerary::otherLanguages()
 void Itinerary::clearing()
 {
     claim(add("cleared", "results", {tap("results"), tap("clear"), tap("yes")}),
-          "nothing is left to clear",
-          [this] { return m_frame.records().count({}) == 0 && !m_screen.isEnabled("clear"); });
+          "nothing is left to print or clear", [this] {
+              return m_frame.records().count({}) == 0 && !m_screen.isEnabled("print") &&
+                     !m_screen.isEnabled("clear");
+          });
     add("end", "home", {{[this] { m_frame.records().startAnew(); }, 0}, tap("back")});
 }
 
@@ -146,6 +161,7 @@ std::vector<TourStep> Itinerary::steps()
     firstLook();
     limit();
     results();
+    append(m_printing.steps());
     settings();
     calibration();
     saving();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tour/ListItinerary.h"
+#include "tour/PrintItinerary.h"
 #include "tour/SettingsItinerary.h"
 #include "tour/StepList.h"
 #include "tour/TypingItinerary.h"
@@ -16,7 +17,8 @@ class Screen;
 class Itinerary : private StepList
 {
 public:
-    Itinerary(InstrumentFrame& frame, Screen& screen);
+    /// Papers and pictures that the tour makes besides its steps go to `strDir`.
+    Itinerary(InstrumentFrame& frame, Screen& screen, const QString& strDir);
 
     std::vector<TourStep> steps();
 
@@ -39,4 +41,5 @@ private:
     SettingsItinerary m_settings;
     TypingItinerary m_typing;
     ListItinerary m_lists;
+    PrintItinerary m_printing;
 };

@@ -52,6 +52,12 @@ std::string Screen::dialog()
     return pDialog != nullptr ? pDialog->m_strID : "";
 }
 
+std::string Screen::dialogTag()
+{
+    ZELPopupWindow* pDialog = findDialog();
+    return pDialog != nullptr ? pDialog->getPopupTag() : "";
+}
+
 ZELPopupWindow* Screen::findDialog()
 {
     for (QWidget* pWindow : QApplication::topLevelWidgets()) {

@@ -31,6 +31,9 @@ public:
     /// Id of the dialog that lies over the page, or "".
     std::string dialog();
 
+    /// The popup tag of that dialog, or "".
+    std::string dialogTag();
+
     QImage picture();
 
     /// Gives the window on top the keys, as a window system does once another one has closed.

@@ -23,6 +23,7 @@ struct TourStep
     std::string strDialog;        ///< must lie over the page; "" for none
     std::string strClaim;         ///< what else must be true, in words
     std::function<bool()> isTrue; ///< the same, to be tested
+    int nLimit = 0;               ///< milliseconds until then, where it takes longer than usual
 };
 
 /// Steps of the tour, put together from touches. They refer to the list and must not outlive it.

@@ -33,7 +33,7 @@ bool isPlain(const QImage& image)
 Tour::Tour(InstrumentFrame& frame, const QString& strDir)
     : m_screen(frame)
     , m_strDir(strDir)
-    , m_itinerary(frame, m_screen)
+    , m_itinerary(frame, m_screen, strDir)
     , m_steps(m_itinerary.steps())
 {
     QDir().mkpath(m_strDir);
@@ -90,7 +90,8 @@ void Tour::finishStep()
 {
     const QImage image = m_screen.picture();
     std::string strFault = fault(image);
-    const bool bMayCome = m_screen.missing().empty() && m_clock.elapsed() < settleLimit;
+    const int nLimit = std::max(m_steps[m_nStep].nLimit, settleLimit);
+    const bool bMayCome = m_screen.missing().empty() && m_clock.elapsed() < nLimit;
     if (!strFault.empty() && bMayCome) {
         goOn(settleCheck);
         return;

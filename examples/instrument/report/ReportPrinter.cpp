@@ -1,0 +1,63 @@
+#include "report/ReportPrinter.h"
+
+#include "events/ZELResultEvent.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+// of the printout and the serial line, as ImagePrint has them
+const int rowsOfLine = 32;
+const int rowsOfBand = 24;
+const int bytesOfBand = 1161; // with its head, its line feed and the question for the status
+const int bytesPerSecond = 11520;
+
+} // namespace
+
+ReportPrinter::ReportPrinter(QObject* pReceiver)
+    : m_pReceiver(pReceiver)
+{
+}
+
+ReportPrinter::~ReportPrinter()
+{
+    cancel();
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void ReportPrinter::start(const std::string& strReport)
+{
+    if (m_thread.joinable())
+        return;
+    m_thread = std::thread([this, strReport] {
+        const Result result = print(strReport);
+        QCoreApplication::postEvent(m_pReceiver,
+                                    new ZELResultEvent(EVENT_PRINTED, result, nullptr));
+    });
+}
+
+void ReportPrinter::cancel()
+{
+    m_bCancelled = true;
+    m_print.CancelPrint();
+}
+
+// 0 may also mean that the job was cancelled before its first band, and -1 that it was cancelled
+// later: only who has cancelled can tell.
+ReportPrinter::Result ReportPrinter::print(const std::string& strReport)
+{
+    const int nResult = m_bCancelled ? 0 : m_print.printImageString(strReport.c_str());
+    if (m_bCancelled)
+        return cancelled;
+    return nResult == 0 ? done : failed;
+}
+
+int ReportPrinter::expectedTime(const std::string& strReport)
+{
+    const auto nLines = std::count(strReport.begin(), strReport.end(), '\n') + 1;
+    const auto nBands = nLines * rowsOfLine / rowsOfBand;
+    return static_cast<int>(nBands * bytesOfBand * 1000 / bytesPerSecond);
+}
