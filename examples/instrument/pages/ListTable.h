@@ -25,7 +25,10 @@ public:
     int firstEntry() const;
 
     /// The entry in a row of this page.
-    std::size_t entry(int nRow) const { return static_cast<std::size_t>(firstEntry() + nRow); }
+    std::size_t entry(int nRow) const
+    {
+        return static_cast<std::size_t>(firstEntry()) + static_cast<std::size_t>(nRow);
+    }
 
     /// How many rows of this page have an entry.
     int filledRows() const;
