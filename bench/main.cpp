@@ -24,7 +24,7 @@ constexpr const char* usage =
     "usage: qtpanfx_bench [--quick] [--only GROUP] [--save-pictures DIR]\n"
     "  --quick          fewer turns, under 20 seconds\n"
     "  --only GROUP     one of: load switch touch image strings log compose typing\n"
-    "                   lists gauges print memory start\n"
+    "                   lists gauges print memory start size\n"
     "  --save-pictures  leaves what each candidate painted in DIR\n"
     "Ends with 1 when a measurement is not valid; a missed goal is only marked.\n";
 
@@ -51,7 +51,7 @@ constexpr Group groups[] = {
     {"image", measureImageHit},  {"strings", measureStringTable}, {"log", measureLogLine},
     {"compose", measureCompose}, {"typing", measureTyping},       {"lists", measureLists},
     {"gauges", measureGauges},   {"print", measurePrint},         {"memory", measureMemory},
-    {"start", measureStart},
+    {"start", measureStart},     {"size", measureSize},
 };
 
 bool readOptions(const std::vector<std::string>& words, Options& options)

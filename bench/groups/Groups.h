@@ -33,6 +33,7 @@ void measureGauges(Run& run);
 void measurePrint(Run& run);
 void measureMemory(Run& run);
 void measureStart(Run& run);
+void measureSize(Run& run);
 
 // The work of child processes. What measures memory needs a process that has not freed big pages
 // before, and writes one number to the standard output: bytes.

@@ -10,6 +10,8 @@
 #include "support/Touch.h"
 #include "support/VirtualSlot.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPalette>
 #include <QPointer>
 

@@ -7,6 +7,7 @@
 #include "support/Pixels.h"
 #include "support/SystemFaults.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QPalette>
 #include <QTime>
