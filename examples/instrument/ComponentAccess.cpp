@@ -48,6 +48,11 @@ std::string localText(const std::string& strKey)
     return ZELResourceMgr::getInstance()->getLocaleString(strKey);
 }
 
+std::string captioned(const std::string& strKey, const std::string& strValue)
+{
+    return localText(strKey) + localText("@colon") + " " + strValue;
+}
+
 void showText(ZELComponent* pLabel, const std::string& strText)
 {
     if (auto* pText = componentAs<ZELLabel>(pLabel, "ZELLabel")) {

@@ -34,6 +34,9 @@ std::string touchedID(QEvent* pEvent);
 /// A text of the string table, in the language of the day; the key begins with "@".
 std::string localText(const std::string& strKey);
 
+/// The text of that key, a colon as the language of the day writes it, and the value.
+std::string captioned(const std::string& strKey, const std::string& strValue);
+
 /// Gives a label another text. Null, or anything but a label, is left alone.
 void showText(PANFx::Components::ZELComponent* pLabel, const std::string& strText);
 

@@ -181,8 +181,8 @@ void SamplesPage::showPicked()
         m_list.setChecked(nRow, box, m_picked.count(m_samples[m_list.entry(nRow)].strName) > 0);
     if (auto* pList = component<ZELUnitList>("samples", "ZELUnitList"))
         pList->setHeaderCheckButton(!m_picked.empty() && m_picked.size() == m_samples.size());
-    setText("picked", localText("@picked") + ": " + std::to_string(m_picked.size()) + " / " +
-                          std::to_string(m_samples.size()));
+    setText("picked", captioned("@picked", std::to_string(m_picked.size()) + " / " +
+                                               std::to_string(m_samples.size())));
     setDimmed("show", m_picked.empty());
     setDimmed("clear", m_picked.empty());
 }

@@ -43,7 +43,7 @@ void addHead(std::vector<std::string>& lines, const ReportHead& head)
     lines.insert(lines.end(), {"AQUA-4", localText("@kind"), ""});
     lines.push_back("#" + localText("@results"));
     lines.push_back("@" + timeText(head.time, head.strDateOrder));
-    lines.push_back("@" + localText("@operator") + ": " + plain(head.strOperator));
+    lines.push_back("@" + captioned("@operator", plain(head.strOperator)));
     lines.push_back(ruler);
 }
 
@@ -108,7 +108,7 @@ std::string reportText(const ReportHead& head, const std::vector<Analyser::Chann
     if (!records.empty())
         addSummary(lines, channels, records);
     lines.push_back("@* " + localText("@above"));
-    lines.push_back("@" + localText("@count") + ": " + std::to_string(records.size()));
+    lines.push_back("@" + captioned("@count", std::to_string(records.size())));
     lines.insert(lines.end(), {"", "@" + localText("@report.end"), ""});
     std::string strText;
     for (const std::string& strLine : lines)
