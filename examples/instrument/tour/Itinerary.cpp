@@ -11,6 +11,8 @@ bool hasLettersOfItsOwn(const std::string& strLocale)
     return strLocale == "ger" || strLocale == "rus" || strLocale == "chn";
 }
 
+const double lowLimit = 6; // of the pH value, which is above 7
+
 } // namespace
 
 Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen, const QString& strDir)
@@ -109,20 +111,29 @@ void Itinerary::korean()
     add("language", "language", {goHome(), tap("language")});
     add("language-pressed", "language", {press("lang_kr")});
     m_strLocale = "kr";
-    add("korean", "home", {release()});
-    add("korean-measure", "measure", {tap("measure")});
-    add("korean-results", "results", {goHome(), tap("results")});
-    add("korean-question", "results", {tap("clear")}).strDialog = "question";
-    add("korean-settings", "settings", {tap("no"), goHome(), tap("settings")});
-    append(m_settings.languageSteps("korean", m_strLocale));
-    add("korean-calibration", "settings", {tap("tab_sensor"), tap("calibrate"), tick("", 9)})
-        .strDialog = "calibration";
-    add("korean-clock", "clock", {tap("cancel"), tap("tab_system"), tap("go_clock")});
-    add("korean-network", "network", {tap("back"), tap("go_network"), tap("address")});
-    add("korean-sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
-    append(m_lists.stepsIn("korean", m_strLocale));
+    // the limit stays low, so that what is said then is to be seen in each language
+    add("korean", "home", {release(), {[this] { analyser().setLimit(0, lowLimit); }, 0}});
+    looksIn("korean", m_strLocale);
     add("korean-language", "language", {goHome(), tap("language")});
     append(m_printing.inLanguage("korean", m_strLocale));
+}
+
+void Itinerary::looksIn(const std::string& strName, const std::string& strLocale)
+{
+    const std::string strPrefix = strName + "-";
+    claim(add(strPrefix + "measure", "measure", {tap("measure")}), "the reading is above its limit",
+          [this] { return analyser().channels()[0].isAboveLimit(); });
+    add(strPrefix + "averaging", "measure", {tap("cond"), tap("mean"), tick("", 3)});
+    add(strPrefix + "results", "results", {goHome(), tap("results")});
+    add(strPrefix + "question", "results", {tap("clear")}).strDialog = "question";
+    add(strPrefix + "settings", "settings", {tap("no"), goHome(), tap("settings")});
+    append(m_settings.languageSteps(strName, strLocale));
+    add(strPrefix + "calibration", "settings", {tap("tab_sensor"), tap("calibrate"), tick("", 9)})
+        .strDialog = "calibration";
+    add(strPrefix + "clock", "clock", {tap("cancel"), tap("tab_system"), tap("go_clock")});
+    add(strPrefix + "network", "network", {tap("back"), tap("go_network")});
+    add(strPrefix + "sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
+    append(m_lists.stepsIn(strName, strLocale));
 }
 
 void Itinerary::otherLanguages()
@@ -132,13 +143,7 @@ void Itinerary::otherLanguages()
                                {"russian", "rus"}, {"chinese", "chn"}};
     for (const auto& [pszName, pszLocale] : others) {
         addLanguage(pszName, pszLocale);
-        const std::string strPrefix = std::string(pszName) + "-";
-        add(strPrefix + "settings", "settings", {tap("settings")});
-        append(m_settings.languageSteps(pszName, pszLocale));
-        add(strPrefix + "clock", "clock", {tap("go_clock")});
-        add(strPrefix + "network", "network", {tap("back"), tap("go_network"), tap("address")});
-        add(strPrefix + "sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
-        append(m_lists.stepsIn(pszName, pszLocale));
+        looksIn(pszName, pszLocale);
         if (hasLettersOfItsOwn(pszLocale))
             append(m_printing.inLanguage(pszName, pszLocale));
     }

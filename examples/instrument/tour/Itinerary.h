@@ -35,6 +35,9 @@ private:
 
     void addLanguage(const std::string& strName, const std::string& strLocale);
 
+    /// A look at pages and dialogs in the language that is in force, from the home page on.
+    void looksIn(const std::string& strName, const std::string& strLocale);
+
     Analyser& analyser();
 
     InstrumentFrame& m_frame;

@@ -295,14 +295,20 @@ std::vector<TourStep> ListItinerary::stepsIn(const std::string& strName,
     addSamples(strName + "-samples", {tap("filter"), tap("samples"), tap("samples/row1/pick")},
                "one is checked",
                [](SamplesPage& page) { return page.pickedSamples().size() == 1; });
+    add(strName + "-sample-question", "samples", {tap("clear")}).strDialog = "question";
     claim(add(strName + "-recent", "sample",
-              {goHome(), goHome(), tap("measure"), tap("sample"), tap("recent")}),
+              {tap("no"), goHome(), goHome(), tap("measure"), tap("sample"), tap("recent")}),
           "the last names are open", [this] { return m_screen.isVisible("recent_names"); });
     claim(add(strName + "-about", "about", {goHome(), goHome(), tap("about")}), "the text begins",
           [this] { return m_screen.text("text/scroll").rfind("1/", 0) == 0; });
     claim(add(strName + "-about-two", "about", {tap("text/scroll/downbtn")}),
           "it is the second page",
           [this] { return m_screen.text("text/scroll").rfind("2/", 0) == 0; });
+    claim(add(strName + "-about-end", "about", {tap("text/scroll/downbtn")}), "it is the last page",
+          [this] {
+              return m_screen.text("text/scroll") == "3/3" &&
+                     !m_screen.isEnabled("text/scroll/downbtn");
+          });
     m_strLocale.clear();
     return takeSteps();
 }

@@ -174,7 +174,14 @@ std::vector<TourStep> PrintItinerary::inLanguage(const std::string& strName,
                                                  const std::string& strLocale)
 {
     m_strLocale = strLocale;
-    add(strName + "-results", "results", {goHome(), goHome(), tap("results")});
+    claimTag(add(strName + "-print-unplugged", "results",
+                 {goHome(),
+                  goHome(),
+                  tap("results"),
+                  {[this] { m_printer.unplug(); }, 0},
+                  tap("print")}),
+             "the panel tells that nothing is printed", "failed");
+    add(strName + "-print-closed", "results", {tap("cancel")});
     printed(strName + "-", "paper-" + strLocale + ".png");
     return takeSteps();
 }
