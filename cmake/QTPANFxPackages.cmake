@@ -60,8 +60,10 @@ qtpanfx_package(library ${library_package}
 qtpanfx_package(library-dev ${library_dev_package}
     "QTPANFx with Qt ${QTPANFX_QT_MAJOR}: files for development"
     "${library_package} ${same_version}" "libqtpanfx-headers ${same_version}" ${qt_dev_package})
-qtpanfx_package(tools qtpanfx-tools
-    "QTPANFx: an emulator of the thermal printer, for development machines")
-set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
+if(TARGET printer-emulator)
+    qtpanfx_package(tools qtpanfx-tools
+        "QTPANFx: an emulator of the thermal printer, for development machines")
+    set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
+endif()
 
 include(CPack)

@@ -78,6 +78,10 @@ void Lineup::comparePictures(Table& table, const std::string& page, const std::s
         const QImage picture = paintedPicture(*entry.pCandidate, page, likeness);
         if (!directory.empty())
             picture.save(QString::fromStdString(directory + "/" + page + "-" + entry.key + ".png"));
+        if (picture.isNull()) {
+            table.fault(entry.name + " painted no picture of " + page);
+            continue;
+        }
         if (floor.isNull()) {
             floor = picture;
             QImage black(800, 480, QImage::Format_RGB32);

@@ -54,12 +54,29 @@ TEST_F(FirstPageTest, aTouchOnTheSecondTextEndsTheProgram)
     EXPECT_EQ(QApplication::exec(), 0);
 }
 
+/** Counts what a page is told of touches. */
+class Listener : public QObject
+{
+public:
+    int touches = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        touches += event->type() == EVENT_MOUSE_UP ? 1 : 0;
+        return false;
+    }
+};
+
 TEST_F(FirstPageTest, aTouchOnTheFirstTextDoesNot)
 {
     ASSERT_NE(label("greeting"), nullptr);
+    Listener listener;
+    page->installEventFilter(&listener);
     QTimer::singleShot(0, &frame, [this] { Touch::tapWindow(label("greeting")); });
     QTimer::singleShot(200, &frame, [] { QApplication::exit(1); });
     EXPECT_EQ(QApplication::exec(), 1);
+    EXPECT_EQ(listener.touches, 1);
 }
 
 } // namespace

@@ -23,7 +23,7 @@ import tempfile
 from install_tools import foreign_symbol, run
 
 ABI = pathlib.Path(__file__).resolve().parent.parent.parent / "abi"
-OPTIONS = ("--drop-private-types", "--no-corpus-path", "--no-comp-dir-path", "--no-show-locs",
+OPTIONS = ("--no-corpus-path", "--no-comp-dir-path", "--no-show-locs",
            "--no-parameter-names", "--no-elf-needed", "--type-id-style", "hash")
 
 
@@ -57,8 +57,11 @@ def check_symbols(library, record):
 def check_layout(library, options, record):
     """False when abidiff tells a change; true, saying why, where it can't be asked."""
     made_with = record.with_name(record.name.replace(".abi.xz", ".made-with"))
-    if not shutil.which("abidiff") or not record.is_file():
-        print(f"{record.name}: passed over, there is no abidiff or no record")
+    if not record.is_file():
+        print(f"{record.name}: there is no record")
+        return False
+    if not shutil.which("abidiff"):
+        print(f"{record.name}: passed over, there is no abidiff")
         return True
     if made_with.read_text(encoding="utf-8").strip() != options.made_with:
         print(f"{record.name}: passed over, it was made with another compiler or Qt")
@@ -67,8 +70,7 @@ def check_layout(library, options, record):
         unpacked.write(lzma.decompress(record.read_bytes()))
         unpacked.flush()
         done = subprocess.run(
-            ["abidiff", "--no-added-syms", "--no-architecture", "--drop-private-types",
-             "--headers-dir2", options.headers, unpacked.name, str(library)],
+            ["abidiff", "--no-added-syms", "--no-architecture", unpacked.name, str(library)],
             stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False,
         )
     if done.returncode:
@@ -80,7 +82,7 @@ def update(library, options, name):
     listing = "\n".join(symbols(library)) + "\n"
     (ABI / f"{name}.symbols").write_text(listing, encoding="utf-8")
     with tempfile.NamedTemporaryFile(suffix=".abi") as made:
-        run("abidw", *OPTIONS, "--headers-dir", options.headers, "--out-file", made.name, library)
+        run("abidw", *OPTIONS, "--out-file", made.name, library)
         packed = lzma.compress(pathlib.Path(made.name).read_bytes(), preset=9)
     (ABI / f"{name}.abi.xz").write_bytes(packed)
     (ABI / f"{name}.made-with").write_text(options.made_with + "\n", encoding="utf-8")
@@ -91,7 +93,6 @@ def main():
     parser = argparse.ArgumentParser(
         description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter
     )
-    parser.add_argument("--headers", required=True, help="folder of the headers")
     parser.add_argument("--made-with", required=True, help="compiler, Qt and processor")
     parser.add_argument("--update", action="store_true", help="write the records anew")
     parser.add_argument("libraries", nargs="+", type=pathlib.Path)

@@ -9,12 +9,10 @@ without a display and has to stay until it is stopped.
 import argparse
 import pathlib
 import re
-import subprocess
 import sys
 import tempfile
-import time
 
-from install_tools import expect, run
+from install_tools import expect, expect_stays, run
 
 BLOCK = re.compile(r"^```(\w+)( window)?\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 NAME = re.compile(r"`([^`\n]+)`:\n\n$")
@@ -44,11 +42,7 @@ class Reader:
 
     def open_window(self, text):
         command = self.script(text.rstrip().replace("build/scale", "exec build/scale"))
-        with subprocess.Popen(command, env=self.env) as process:
-            time.sleep(1)
-            status = process.poll()
-            process.terminate()
-        expect(status is None, "the window opens and stays")
+        expect_stays(command, self.env, "the tutorial's panel")
 
     def write(self, name, text):
         (self.folder / name).write_text(text, encoding="utf-8")

@@ -7,7 +7,7 @@ namespace PANFx::Components {
 namespace {
 
 constexpr int chineseUnit = 2; // characters
-constexpr std::size_t letters = 0x10000;
+constexpr std::size_t pageLetters = 256;
 
 } // namespace
 
@@ -15,7 +15,6 @@ LineBreaker::LineBreaker(const QFont& font, bool bChinese)
     : m_metrics(font)
     , m_exactMetrics(font)
     , m_bChinese(bChinese)
-    , m_letters(letters, -1.0F)
 {
 }
 
@@ -74,7 +73,10 @@ void LineBreaker::addUpAdvances(const QString& strParagraph)
 
 float LineBreaker::advanceOf(QChar letter)
 {
-    float& advance = m_letters[letter.unicode()];
+    std::vector<float>& page = m_letters[letter.row()];
+    if (page.empty())
+        page.assign(pageLetters, -1.0F); // not measured yet
+    float& advance = page[letter.cell()];
     if (advance < 0)
         advance = std::max(static_cast<float>(m_exactMetrics.horizontalAdvance(letter)), 0.0F);
     return advance;

@@ -5,6 +5,7 @@
 #include <QFontMetrics>
 #include <QStringList>
 
+#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -14,6 +15,10 @@ namespace PANFx::Components {
  * Breaks paragraphs into lines of a width. A paragraph can be broken between words; in Chinese,
  * which has no blanks, behind the first blank and then behind each two characters. A line takes
  * what fits, and what is too long for a line isn't cut.
+ *
+ * Taken for granted is that more text never takes less room. That holds for the scripts of the
+ * instrument's languages; a ligature or a joined emoji that is cut in two may take more room than
+ * the whole one, and a line may then end elsewhere than by measuring unit after unit.
  */
 class QTPANFX_EXPORT LineBreaker
 {
@@ -45,7 +50,8 @@ private:
     QFontMetrics m_metrics;
     QFontMetricsF m_exactMetrics;
     bool m_bChinese;
-    std::vector<float> m_letters;  ///< advance of each letter on its own; negative: not known yet
+    /// advance of each letter on its own, 256 to a page; a page that has had no letter is empty
+    std::array<std::vector<float>, 256> m_letters;
     std::vector<Unit> m_units;     ///< of the paragraph
     std::vector<float> m_advances; ///< of the letters before each letter
 };
