@@ -11,7 +11,10 @@ using PANFx::Windows::ZELMainFrame;
 class HelloPage : public ZELChildWindow
 {
 public:
-    explicit HelloPage(QWidget* parent) : ZELChildWindow("hello", parent, "") {}
+    explicit HelloPage(QWidget* parent)
+        : ZELChildWindow("hello", parent, "")
+    {
+    }
 
 protected:
     bool event(QEvent* event) override

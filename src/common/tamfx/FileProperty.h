@@ -21,9 +21,9 @@ namespace TAMFx::Data::Properties {
  * for byte. When a key stands more than once the last line counts. Keys are case-sensitive.
  *
  * A value stands as it is, backslashes too. Only one in double quotes is read differently: the
- * quotes go away, and inside them `\n`, `\r`, `\"` and `\\` stand for line feed, carriage return, quote
- * and backslash. A value is written like that only where it must be: when it begins or ends with
- * a blank, holds a line break, or begins with a quote.
+ * quotes go away, and inside them `\n`, `\r`, `\"` and `\\` stand for line feed, carriage return,
+ * quote and backslash. A value is written like that only where it must be: when it begins or ends
+ * with a blank, holds a line break, or begins with a quote.
  */
 class TAMFX_EXPORT FileProperty
 {
