@@ -65,7 +65,7 @@ Record record(int nDay, int nOfDay, const QDate& date)
 std::vector<Record> firstRecords(const QDate& today)
 {
     std::vector<Record> records;
-    records.reserve(days * perDay);
+    records.reserve(std::size_t{days} * perDay);
     for (int nDay = 0; nDay < days; ++nDay)
         for (int nOfDay = 0; nOfDay < perDay; ++nOfDay)
             records.push_back(record(nDay, nOfDay, today.addDays(nDay - days)));
