@@ -44,11 +44,11 @@ int ListTable::filledRows() const
     return std::clamp(m_nEntries - firstEntry(), 0, m_nRows);
 }
 
-void ListTable::showFilledRows()
+void ListTable::showRows(int nRows)
 {
     for (int nRow = 0; nRow < m_nRows; ++nRow) {
         ZELComponent* pRow = m_pList->getListItem(nRow);
-        if (nRow < filledRows())
+        if (nRow < nRows)
             pRow->showWindow();
         else
             pRow->hideWindow();

@@ -33,8 +33,8 @@ public:
     /// How many rows of this page have an entry.
     int filledRows() const;
 
-    /// Shows the rows that have an entry and hides the others.
-    void showFilledRows();
+    /// Shows so many rows from the first one on and hides the others.
+    void showRows(int nRows);
 
     /// A cell, or null.
     PANFx::Components::ZELComponent* cell(int nRow, int nColumn) const;

@@ -246,15 +246,22 @@ void ResultsPage::fillFilter()
     m_filter.setEntries(std::move(names));
 }
 
+// By what has been read, since that may be less than was counted: each question opens the database
+// anew, and one that fails has an empty answer.
+int ResultsPage::shownRows() const
+{
+    return static_cast<int>(m_shown.size());
+}
+
 void ResultsPage::fillList()
 {
     RecordStore& store = m_pFrame->records();
     m_nCount = store.count(query().samples);
     m_list.setEntries(m_nCount);
     m_shown = store.records(query(), m_list.firstEntry(), m_list.rows());
-    for (int nRow = 0; nRow < m_list.filledRows(); ++nRow)
+    for (int nRow = 0; nRow < shownRows(); ++nRow)
         fillRow(nRow);
-    m_list.showFilledRows();
+    m_list.showRows(shownRows());
     showHeader();
     showSelection();
     showMeans();
@@ -297,7 +304,7 @@ void ResultsPage::showHeader()
 
 void ResultsPage::showSelection()
 {
-    for (int nRow = 0; nRow < m_list.filledRows(); ++nRow)
+    for (int nRow = 0; nRow < shownRows(); ++nRow)
         m_list.setChecked(nRow, pick,
                           m_selected.count(m_shown[static_cast<std::size_t>(nRow)].nID) > 0);
     const auto nSelected = static_cast<int>(m_selected.size());

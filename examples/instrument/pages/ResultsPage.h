@@ -47,6 +47,7 @@ private:
     void fillFilter();
     void fillList();
     void fillRow(int nRow);
+    int shownRows() const;
     void showHeader();
     void showSelection();
     void showMeans();

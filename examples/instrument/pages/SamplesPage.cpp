@@ -157,7 +157,7 @@ void SamplesPage::fillList()
     showText(m_list.headCell<ZELLabel>(meanTemperature, "ZELLabel"), "Ø " + strUnit);
     for (int nRow = 0; nRow < m_list.filledRows(); ++nRow)
         fillRow(nRow);
-    m_list.showFilledRows();
+    m_list.showRows(m_list.filledRows());
     showPicked();
 }
 
