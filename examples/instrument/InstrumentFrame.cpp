@@ -1,5 +1,6 @@
 #include "InstrumentFrame.h"
 
+#include "ApplicationEvents.h"
 #include "pages/AboutPage.h"
 #include "pages/ClockPage.h"
 #include "pages/HomePage.h"

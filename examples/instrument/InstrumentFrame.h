@@ -7,12 +7,8 @@
 #include "windows/ZELMainFrame.h"
 
 #include <QDateTime>
-#include <QEvent>
 
 class ConsoleSound;
-
-/// Posted once a second to the page on screen, as a ZELEvent: there are new readings.
-constexpr QEvent::Type EVENT_READING = QEvent::Type(2001);
 
 /// The one top-level window: it makes the pages, reads the analyser, sounds the alarm and changes
 /// the language.

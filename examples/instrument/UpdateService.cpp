@@ -1,5 +1,7 @@
 #include "UpdateService.h"
 
+#include "ApplicationEvents.h"
+
 #include "events/ZELUpdateInfoEvent.h"
 #include "events/ZELUpdateStatusEvent.h"
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QEvent>
-
 #include <condition_variable>
 #include <mutex>
 #include <string>
@@ -9,14 +7,9 @@
 
 class QObject;
 
-/// Posted as a ZELUpdateInfoEvent: the images of the new software with their versions.
-constexpr QEvent::Type EVENT_UPDATE_INFO = QEvent::Type(2002);
-
-/// Posted as a ZELUpdateStatusEvent: how far each of them has been loaded.
-constexpr QEvent::Type EVENT_UPDATE_STATUS = QEvent::Type(2003);
-
 /// Loads new software, simulated, in a thread of its own. The thread touches nothing of its
-/// receiver but posts events to it. All operations belong to the thread of the receiver.
+/// receiver but posts EVENT_UPDATE_INFO and EVENT_UPDATE_STATUS to it. All operations belong to the
+/// thread of the receiver.
 class UpdateService
 {
 public:

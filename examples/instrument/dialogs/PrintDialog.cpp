@@ -1,5 +1,7 @@
 #include "dialogs/PrintDialog.h"
 
+#include "ApplicationEvents.h"
+
 #include "components/buttons/ZELImageButton.h"
 #include "components/pictures/ZELPieImageBox.h"
 #include "components/text/ZELLabel.h"

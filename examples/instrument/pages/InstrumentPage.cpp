@@ -1,5 +1,6 @@
 #include "pages/InstrumentPage.h"
 
+#include "ApplicationEvents.h"
 #include "Calendar.h"
 #include "InstrumentFrame.h"
 #include "dialogs/PictureDialog.h"

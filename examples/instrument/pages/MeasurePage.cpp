@@ -1,5 +1,6 @@
 #include "pages/MeasurePage.h"
 
+#include "ApplicationEvents.h"
 #include "InstrumentFrame.h"
 
 #include "components/buttons/ZELImageButton.h"

@@ -1,5 +1,6 @@
 #include "pages/SamplesPage.h"
 
+#include "ApplicationEvents.h"
 #include "Calendar.h"
 #include "InstrumentFrame.h"
 #include "dialogs/QuestionDialog.h"
@@ -22,9 +23,6 @@ namespace {
 
 /// Columns of the list, as they stand in its layout.
 enum Column { box, name, count, meanPH, meanTemperature, last };
-
-/// Posted by the page to itself once a box has been touched.
-constexpr QEvent::Type EVENT_BOX_TOUCHED = QEvent::Type(2002);
 
 const std::size_t phAt = 0; // place of the pH value among the channels
 

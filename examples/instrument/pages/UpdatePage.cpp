@@ -1,5 +1,6 @@
 #include "pages/UpdatePage.h"
 
+#include "ApplicationEvents.h"
 #include "InstrumentFrame.h"
 
 #include "components/gauges/ZELImageProgressBar.h"
@@ -37,7 +38,7 @@ void UpdatePage::activating()
     InstrumentPage::activating();
 }
 
-// The type number tells the class: these events are made by the service alone.
+// The type number tells the class: the service alone makes events of these numbers.
 bool UpdatePage::event(QEvent* pEvent)
 {
     if (pEvent->type() == EVENT_UPDATE_INFO)

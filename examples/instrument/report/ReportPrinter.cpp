@@ -1,5 +1,7 @@
 #include "report/ReportPrinter.h"
 
+#include "ApplicationEvents.h"
+
 #include "events/ZELResultEvent.h"
 
 #include <QCoreApplication>

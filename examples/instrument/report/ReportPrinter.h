@@ -2,17 +2,11 @@
 
 #include "print/ImagePrint.h"
 
-#include <QEvent>
-
 #include <atomic>
 #include <string>
 #include <thread>
 
 class QObject;
-
-/// Posted to the receiver at the end of a print job, as a ZELResultEvent with a
-/// ReportPrinter::Result.
-constexpr QEvent::Type EVENT_PRINTED = QEvent::Type(2004);
 
 /// Prints a report while the panel goes on: the library prints on its caller's thread, so the job
 /// has a thread of its own, which the application starts here and ends here.
