@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <chrono>
 
 namespace {
 
@@ -15,6 +16,8 @@ const int rowsOfLine = 32;
 const int rowsOfBand = 24;
 const int bytesOfBand = 1161; // with its head, its line feed and the question for the status
 const int bytesPerSecond = 11520;
+
+const std::chrono::milliseconds cancelPause(10);
 
 } // namespace
 
@@ -25,9 +28,13 @@ ReportPrinter::ReportPrinter(QObject* pReceiver)
 
 ReportPrinter::~ReportPrinter()
 {
-    cancel();
-    if (m_thread.joinable())
-        m_thread.join();
+    if (!m_thread.joinable())
+        return;
+    while (!m_bEnded) {
+        cancel(); // again and again: a job that is beginning forgets it
+        std::this_thread::sleep_for(cancelPause);
+    }
+    m_thread.join();
 }
 
 void ReportPrinter::start(const std::string& strReport)
@@ -38,6 +45,7 @@ void ReportPrinter::start(const std::string& strReport)
         const Result result = print(strReport);
         QCoreApplication::postEvent(m_pReceiver,
                                     new ZELResultEvent(EVENT_PRINTED, result, nullptr));
+        m_bEnded = true;
     });
 }
 

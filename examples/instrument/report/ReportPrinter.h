@@ -29,7 +29,8 @@ public:
     void start(const std::string& strReport);
 
     /// Stops the job before its next band. A job that is just beginning may not hear it: call it
-    /// again and again, until EVENT_PRINTED has come.
+    /// again and again, until EVENT_PRINTED has come. That says "cancelled" then, also when the
+    /// last band was going out already and the report is whole.
     void cancel();
 
     /// Milliseconds that the serial line needs for a report. The library does not tell how far a
@@ -42,5 +43,6 @@ private:
     QObject* m_pReceiver;
     ImagePrint m_print;
     std::atomic<bool> m_bCancelled{false};
+    std::atomic<bool> m_bEnded{false}; ///< the thread has nothing left to do
     std::thread m_thread;
 };
