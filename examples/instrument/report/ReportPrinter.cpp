@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 
 namespace {
 
@@ -67,7 +68,8 @@ ReportPrinter::Result ReportPrinter::print(const std::string& strReport)
 
 int ReportPrinter::expectedTime(const std::string& strReport)
 {
-    const auto nLines = std::count(strReport.begin(), strReport.end(), '\n') + 1;
-    const auto nBands = nLines * rowsOfLine / rowsOfBand;
-    return static_cast<int>(nBands * bytesOfBand * 1000 / bytesPerSecond);
+    const qint64 nLines = std::count(strReport.begin(), strReport.end(), '\n') + 1;
+    const qint64 nBands = nLines * rowsOfLine / rowsOfBand;
+    const qint64 nTime = nBands * bytesOfBand * 1000 / bytesPerSecond;
+    return static_cast<int>(std::min<qint64>(nTime, std::numeric_limits<int>::max()));
 }
