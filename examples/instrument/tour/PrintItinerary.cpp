@@ -10,6 +10,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 
 using PrinterEmulator::Behaviour;
@@ -61,7 +62,9 @@ StepList::Actions PrintItinerary::tearOff(const std::string& strPaper)
     const QString strFile = m_strDir + QLatin1Char('/') + QString::fromStdString(strPaper);
     const auto keep = [this, strFile] {
         m_printer.unplug();
-        m_printer.paper().picture().save(strFile, "PNG");
+        m_bKept = m_printer.paper().picture().save(strFile, "PNG");
+        if (!m_bKept)
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(strFile));
     };
     return {{keep, 0}, tap("cancel")};
 }
@@ -81,8 +84,10 @@ void PrintItinerary::failures()
              "the panel tells that nothing is printed", "failed");
     Behaviour noPaper;
     noPaper.status = 0x7E;
-    claimTag(add("print-no-paper", "results", {tap("cancel"), plugIn(noPaper), tap("print")}),
-             "the panel tells that nothing is printed", "failed");
+    TourStep& step =
+        add("print-no-paper", "results", {tap("cancel"), plugIn(noPaper), tap("print")});
+    claimTag(step, "there is a printer, and the panel tells that nothing is printed", "failed");
+    step.isTrue = [this, isFailed = step.isTrue] { return m_printer.isWorking() && isFailed(); };
 }
 
 void PrintItinerary::cancelled()
@@ -93,7 +98,8 @@ void PrintItinerary::cancelled()
     claimTag(add("print-cancelled", "results", {tap("cancel")}), "the panel tells it", "cancelled");
     claim(add("paper-cancelled", "results", tearOff("paper-cancelled.png")),
           "the paper has the first lines alone", [this] {
-              return m_printer.wasWellSpoken() && hasInk(m_printer.paper(), 0, 3 * lineRows) &&
+              return m_bKept && m_printer.wasWellSpoken() &&
+                     hasInk(m_printer.paper(), 0, 3 * lineRows) &&
                      m_printer.paper().rows() < reportRows();
           });
 }
@@ -136,7 +142,8 @@ bool PrintItinerary::isWholeReport()
 {
     const int nRows = reportRows();
     const Paper& paper = m_printer.paper();
-    return m_printer.wasWellSpoken() && paper.rows() == nRows / bandRows * bandRows + endRows &&
+    return m_bKept && m_printer.wasWellSpoken() &&
+           paper.rows() == nRows / bandRows * bandRows + endRows &&
            hasInk(paper, lineRows, 2 * lineRows) &&
            hasInk(paper, nRows - 2 * lineRows, nRows - lineRows);
 }

@@ -30,7 +30,8 @@ private:
 
     Action plugIn(const PrinterEmulator::Behaviour& behaviour);
 
-    /// Pulls the printer off, keeps its paper under that name, and closes the dialog.
+    /// Pulls the printer off, keeps its paper under that name, and closes the dialog. `m_bKept`
+    /// tells whether the paper could be kept.
     Actions tearOff(const std::string& strPaper);
 
     /// What the popup tag of the dialog must be, in time for a whole report.
@@ -44,4 +45,5 @@ private:
     InstrumentFrame& m_frame;
     QString m_strDir;
     TourPrinter m_printer;
+    bool m_bKept = false; ///< the picture of the last paper is written
 };
