@@ -24,7 +24,13 @@ DropDown::DropDown(ZELComboList* pList)
 void DropDown::setEntries(std::vector<std::string> entries)
 {
     close();
-    m_entries = std::move(entries);
+    m_entries.clear();
+    for (std::string& strEntry : entries) {
+        const bool bThere =
+            std::find(m_entries.begin(), m_entries.end(), strEntry) != m_entries.end();
+        if (!bThere && !strEntry.empty())
+            m_entries.push_back(std::move(strEntry));
+    }
     if (m_nRows == 0)
         return;
     const std::size_t nPages = std::max<std::size_t>(1, (m_entries.size() + m_nRows - 1) / m_nRows);

@@ -17,7 +17,8 @@ class DropDown
 public:
     explicit DropDown(PANFx::Components::ZELComboList* pList);
 
-    /// Closes the list and gives it other entries, none twice.
+    /// Closes the list and gives it other entries. The list shows none twice, so what comes again
+    /// is left out, and what is empty: the numbers count what is left.
     void setEntries(std::vector<std::string> entries);
 
     /// Opens the list on its first page, or closes it where it is open.
