@@ -5,8 +5,9 @@
 
 namespace {
 
-// A report takes its time, so the tour prints where there is something else to see on it.
-bool hasLettersOfItsOwn(const std::string& strLocale)
+// A report takes its time, so the tour prints where there are other letters to see on it; in German
+// they are the umlauts.
+bool printsThere(const std::string& strLocale)
 {
     return strLocale == "ger" || strLocale == "rus" || strLocale == "chn";
 }
@@ -144,7 +145,7 @@ void Itinerary::otherLanguages()
     for (const auto& [pszName, pszLocale] : others) {
         addLanguage(pszName, pszLocale);
         looksIn(pszName, pszLocale);
-        if (hasLettersOfItsOwn(pszLocale))
+        if (printsThere(pszLocale))
             append(m_printing.inLanguage(pszName, pszLocale));
     }
     addLanguage("english", "");
