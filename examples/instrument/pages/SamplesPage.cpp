@@ -14,6 +14,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 using PANFx::Components::ZELCheckButton;
 using PANFx::Components::ZELComponent;
 using PANFx::Components::ZELLabel;
@@ -25,6 +27,23 @@ namespace {
 enum Column { box, name, count, meanPH, meanTemperature, last };
 
 const std::size_t phAt = 0; // place of the pH value among the channels
+
+/// By that column: names from A on, and what is most, warmest or latest first.
+bool isBefore(const SampleSummary& one, const SampleSummary& other, int nColumn)
+{
+    switch (nColumn) {
+    case count:
+        return one.nCount > other.nCount;
+    case meanPH:
+        return one.means[phAt] > other.means[phAt];
+    case meanTemperature:
+        return one.means[Analyser::temperatureAt] > other.means[Analyser::temperatureAt];
+    case last:
+        return one.strLast > other.strLast;
+    default:
+        return one.strName < other.strName;
+    }
+}
 
 } // namespace
 
@@ -63,7 +82,7 @@ void SamplesPage::activating()
     InstrumentPage::activating();
     m_picked.clear();
     m_list.rewind();
-    m_samples = m_pFrame->records().samples();
+    readSamples();
     fillList();
 }
 
@@ -83,6 +102,8 @@ bool SamplesPage::event(QEvent* pEvent)
         senderID(pEvent) == "headcheck" ? readHeadBox() : readBoxes();
     else if (type == EVENT_LIST_ITEM_CLICK && listEvent(pEvent) != nullptr)
         pick(listEvent(pEvent)->m_nRow);
+    else if (type == EVENT_LIST_HEADER_CLICK && listEvent(pEvent) != nullptr)
+        sortBy(listEvent(pEvent)->m_nColumn);
     else
         return InstrumentPage::event(pEvent);
     return true;
@@ -117,6 +138,27 @@ void SamplesPage::pick(int nRow)
     readBoxes();
 }
 
+// A head of a unit list knows nothing of directions, so the page does: the second touch on it turns
+// the order round.
+void SamplesPage::sortBy(int nColumn)
+{
+    m_bTurned = nColumn == m_nSortedBy && !m_bTurned;
+    m_nSortedBy = nColumn;
+    readSamples();
+    m_list.rewind();
+    fillList();
+}
+
+void SamplesPage::readSamples()
+{
+    m_samples = m_pFrame->records().samples();
+    std::stable_sort(m_samples.begin(), m_samples.end(),
+                     [this](const SampleSummary& one, const SampleSummary& other) {
+                         return m_bTurned ? isBefore(other, one, m_nSortedBy)
+                                          : isBefore(one, other, m_nSortedBy);
+                     });
+}
+
 std::vector<std::string> SamplesPage::pickedSamples() const
 {
     return {m_picked.begin(), m_picked.end()};
@@ -144,19 +186,30 @@ void SamplesPage::askToClear()
         return;
     m_pFrame->records().remove(records);
     m_picked.clear();
-    m_samples = m_pFrame->records().samples();
+    readSamples();
     fillList();
 }
 
 void SamplesPage::fillList()
 {
     m_list.setEntries(static_cast<int>(m_samples.size()));
-    const std::string& strUnit = analyser().channels()[Analyser::temperatureAt].strUnit;
-    showText(m_list.headCell<ZELLabel>(meanTemperature, "ZELLabel"), "Ø " + strUnit);
+    showHeads();
     for (int nRow = 0; nRow < m_list.filledRows(); ++nRow)
         fillRow(nRow);
     m_list.showRows(m_list.filledRows());
     showPicked();
+}
+
+void SamplesPage::showHeads()
+{
+    const std::string& strUnit = analyser().channels()[Analyser::temperatureAt].strUnit;
+    showText(m_list.headCell<ZELLabel>(meanTemperature, "ZELLabel"), "Ø " + strUnit);
+    for (int nColumn = name; nColumn <= last; ++nColumn) {
+        if (auto* pHead = m_list.headCell<ZELLabel>(nColumn, "ZELLabel")) {
+            pHead->setFontStyle(nColumn == m_nSortedBy ? 1 : 0);
+            pHead->update();
+        }
+    }
 }
 
 void SamplesPage::fillRow(int nRow)

@@ -187,6 +187,7 @@ void ListItinerary::samples()
                    return page.pickedSamples().empty() && !m_screen.isEnabled("show") &&
                           !m_screen.isEnabled("clear");
                });
+    sortingSamples();
     addSamples("samples-all", {tap("samples/head/headcheck")}, "the head checks all of all pages",
                [this](SamplesPage& page) {
                    return page.pickedSamples().size() == m_frame.records().samples().size();
@@ -206,6 +207,38 @@ void ListItinerary::samples()
     addResults("samples-shown", {tap("show")}, "the list has both", [this](ResultsPage& page) {
         return m_frame.settings().results.samples.size() == 2 && showsPage(page, 1);
     });
+}
+
+void ListItinerary::sortingSamples()
+{
+    const auto isSorted = [](const SamplesPage& page, const auto& isLess) {
+        return page.samples().size() > pageRows &&
+               std::is_sorted(page.samples().begin(), page.samples().end(), isLess);
+    };
+    const auto isMore = [](const SampleSummary& one, const SampleSummary& other) {
+        return one.nCount > other.nCount;
+    };
+    addSamples("samples-most", {tap("samples/head/count")}, "the most measured come first",
+               [isSorted, isMore](SamplesPage& page) { return isSorted(page, isMore); });
+    addSamples("samples-least", {tap("samples/head/count")}, "the least measured come first",
+               [isSorted, isMore](SamplesPage& page) {
+                   return isSorted(page, [isMore](const auto& one, const auto& other) {
+                       return isMore(other, one);
+                   });
+               });
+    addSamples("samples-latest", {tap("samples/scroll/downbtn"), tap("samples/head/last")},
+               "the latest come first, on the first page", [this, isSorted](SamplesPage& page) {
+                   const bool bFirst = m_screen.text("samples/scroll").rfind("1/", 0) == 0;
+                   return bFirst && isSorted(page, [](const auto& one, const auto& other) {
+                              return one.strLast > other.strLast;
+                          });
+               });
+    addSamples("samples-by-name", {tap("samples/head/sample")}, "they are in the order of names",
+               [isSorted](SamplesPage& page) {
+                   return isSorted(page, [](const auto& one, const auto& other) {
+                       return one.strName < other.strName;
+                   });
+               });
 }
 
 void ListItinerary::deleting()

@@ -27,6 +27,7 @@ private:
     void sorting();
     void filtering();
     void samples();
+    void sortingSamples();
     void deleting();
     void recentNames();
     void reading();
