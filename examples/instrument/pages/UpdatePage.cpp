@@ -4,6 +4,7 @@
 #include "InstrumentFrame.h"
 
 #include "components/gauges/ZELImageProgressBar.h"
+#include "events/EventNumbers.h"
 #include "events/ZELUpdateInfoEvent.h"
 #include "events/ZELUpdateStatusEvent.h"
 #include "resource/SoundFactory.h"
@@ -34,14 +35,16 @@ void UpdatePage::activating()
     for (int nImage = 0; nImage < UpdateService::imageCount; ++nImage)
         showPercent(itemName(nImage), bNew ? 0 : 100);
     showPercent("total", bNew ? 0 : 100);
-    m_service.announce();
+    m_bKnown = false;
     InstrumentPage::activating();
 }
 
 // The type number tells the class: the service alone makes events of these numbers.
 bool UpdatePage::event(QEvent* pEvent)
 {
-    if (pEvent->type() == EVENT_UPDATE_INFO)
+    if (pEvent->type() == EVENT_WINDOW_ACTIVATE)
+        m_service.announce(); // an answer may take its time, so the page has come up first
+    else if (pEvent->type() == EVENT_UPDATE_INFO)
         showImages(static_cast<ZELUpdateInfoEvent&>(*pEvent));
     else if (pEvent->type() == EVENT_UPDATE_STATUS)
         takeStatus(static_cast<ZELUpdateStatusEvent&>(*pEvent));
@@ -82,6 +85,8 @@ void UpdatePage::showImages(ZELUpdateInfoEvent& event)
         setText(strName + ".name", pItem->getImageName());
         setText(strName + ".version", pItem->getImageVersion());
     }
+    m_bKnown = event.getImageCount() > 0;
+    showValues();
 }
 
 void UpdatePage::takeStatus(ZELUpdateStatusEvent& event)
@@ -112,6 +117,6 @@ void UpdatePage::showValues()
     InstrumentPage::showValues();
     const char* states[] = {"@update.ready", "@update.running", "@update.stopped", "@update.done"};
     setText("state", localText(states[static_cast<int>(m_state)]));
-    setDimmed("start", m_state == State::running || m_state == State::done);
+    setDimmed("start", !m_bKnown || m_state == State::running || m_state == State::done);
     setDimmed("stop", m_state != State::running);
 }

@@ -29,4 +29,5 @@ private:
 
     UpdateService m_service;
     State m_state = State::ready;
+    bool m_bKnown = false; ///< which images there are
 };

@@ -108,8 +108,9 @@ void SettingsItinerary::help()
 
 void SettingsItinerary::update()
 {
-    claim(add("update", "update", {tap("tab_system"), tap("go_update")}), "nothing is loaded",
-          [this] {
+    // which images there are is asked once the page is up, and until then there is nothing to start
+    claim(add("update", "update", {tap("tab_system"), tap("go_update")}),
+          "the images are known, and nothing is loaded", [this] {
               return m_screen.number("total") == 0 && m_screen.isEnabled("start") &&
                      !m_screen.isEnabled("stop");
           });
@@ -131,11 +132,12 @@ void SettingsItinerary::updateDone()
     claim(add("update-left", "settings", {tap("start"), wait(300), tap("back")}),
           "the software is the old one",
           [this] { return m_frame.settings().strFirmware == firmware; });
-    claim(add("update-done", "update", {tap("go_update"), tap("start"), wait(wholeUpdate)}),
-          "all images are loaded", [this] {
-              return m_screen.number("item3") == 100 && m_screen.number("total") == 100 &&
-                     !m_screen.isEnabled("start") && !m_screen.isEnabled("stop");
-          });
+    claim(
+        add("update-done", "update", {tap("go_update"), wait(50), tap("start"), wait(wholeUpdate)}),
+        "all images are loaded", [this] {
+            return m_screen.number("item3") == 100 && m_screen.number("total") == 100 &&
+                   !m_screen.isEnabled("start") && !m_screen.isEnabled("stop");
+        });
     claim(add("updated", "settings", {tap("back")}), "the software is the new one",
           [this] { return m_frame.settings().strFirmware == "1.1.0"; });
 }
