@@ -5,6 +5,7 @@
 #include "pages/ClockPage.h"
 #include "pages/HomePage.h"
 #include "pages/LanguagePage.h"
+#include "pages/LimitsPage.h"
 #include "pages/MeasurePage.h"
 #include "pages/NetworkPage.h"
 #include "pages/NotesPage.h"
@@ -44,6 +45,8 @@ ZELChildWindow* InstrumentFrame::createChildWindow(std::string strID)
         return new HomePage(strID, this);
     if (strID == "measure")
         return new MeasurePage(strID, this);
+    if (strID == "limits")
+        return new LimitsPage(strID, this);
     if (strID == "results")
         return new ResultsPage(strID, this);
     if (strID == "settings")

@@ -61,6 +61,8 @@ bool MeasurePage::event(QEvent* pEvent)
         m_pFrame->moveBack(true);
     } else if (strID == "sample") {
         m_pFrame->moveTo("sample", true, true);
+    } else if (strID == "limit") {
+        m_pFrame->moveTo("limits", true, true);
     } else if (strID == "save") {
         save();
     } else if (strID == "mean") {

@@ -42,7 +42,13 @@ void PadPage::activating()
 
 void PadPage::addField(const std::string& strField, Keys keys, const std::string& strRange)
 {
-    if (ZELImageEdit* pEdit = asField(getSubComponent(strField)))
+    addField(strField, getSubComponent(strField), keys, strRange);
+}
+
+void PadPage::addField(const std::string& strField, ZELComponent* pField, Keys keys,
+                       const std::string& strRange)
+{
+    if (ZELImageEdit* pEdit = asField(pField))
         m_fields[strField] = {pEdit, keys, strRange};
 }
 
@@ -72,8 +78,11 @@ bool PadPage::event(QEvent* pEvent)
 
 void PadPage::openPad(const std::string& strField)
 {
-    const Field& field = m_fields[strField];
-    if (m_pPad == nullptr || (m_pPad->getEdit() == field.pEdit && m_pPad->isVisible()))
+    const auto found = m_fields.find(strField);
+    if (m_pPad == nullptr || found == m_fields.end())
+        return;
+    const Field& field = found->second;
+    if (m_pPad->getEdit() == field.pEdit && m_pPad->isVisible())
         return;
     m_pPad->setEdit(field.pEdit);
     m_pPad->setType(field.keys);

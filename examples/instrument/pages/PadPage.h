@@ -30,6 +30,17 @@ protected:
     /// about its range. Done again, it changes these.
     void addField(const std::string& strField, Keys keys, const std::string& strRange);
 
+    /// The same for a field that lies in a list, which reports by its row: `event` of the page
+    /// calls openPad and leaveField. Anything but a field is left out.
+    void addField(const std::string& strField, PANFx::Components::ZELComponent* pField, Keys keys,
+                  const std::string& strRange);
+
+    /// Brings the pad up for a field.
+    void openPad(const std::string& strField);
+
+    /// Takes what a field holds, and shows what has become of it.
+    void leaveField(const std::string& strField);
+
     /// A field that has been added, or null.
     PANFx::Components::ZELImageEdit* field(const std::string& strField);
 
@@ -46,9 +57,6 @@ private:
         Keys keys;
         std::string strRange;
     };
-
-    void openPad(const std::string& strField);
-    void leaveField(const std::string& strField);
 
     PANFx::Components::ZELNumPad* m_pPad;
     std::map<std::string, Field> m_fields; ///< by id

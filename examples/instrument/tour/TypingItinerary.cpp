@@ -149,6 +149,30 @@ void TypingItinerary::operatorCode()
     });
 }
 
+void TypingItinerary::limits()
+{
+    const auto limitOf = [this](std::size_t nChannel) {
+        return m_frame.analyser().channels()[nChannel].dLimit;
+    };
+    claim(add("limits", "limits", {goHome(), goHome(), tap("measure"), tap("limit")}),
+          "there is no pad", [this] { return !m_screen.isVisible("pad"); });
+    claim(add("limit-row", "limits", {tap("limits/cond/value")}), "the pad is up, without a point",
+          [this] { return m_screen.isVisible("pad") && !m_screen.isVisible("pad/dot"); });
+    addEntry("limits", "limit-whole", "limits/cond/value", "455", "455");
+    const double dOxygen = m_frame.analyser().channels()[2].dLimit;
+    claim(add("limit-other-row", "limits", {tap("limits/oxygen/value")}),
+          "the limit that was left is in force, and the pad has a point", [this, limitOf, dOxygen] {
+              return std::abs(limitOf(1) - 455) < 0.001 && std::abs(limitOf(2) - dOxygen) < 0.001 &&
+                     m_screen.isVisible("pad/dot");
+          });
+    addEntry("limits", "limit-decimal", "limits/oxygen/value", "9.5", "9.5");
+    claim(add("limit-closed", "limits", {tap("pad/close")}), "both limits are in force",
+          [this, limitOf] {
+              return !m_screen.isVisible("pad") && std::abs(limitOf(2) - 9.5) < 0.001 &&
+                     m_screen.text("limits/oxygen/value") == "9.50";
+          });
+}
+
 void TypingItinerary::english()
 {
     addName("sample", {goHome(), goHome(), tap("measure"), tap("sample")}, "");
@@ -213,6 +237,7 @@ std::vector<TourStep> TypingItinerary::steps()
     address();
     numbers();
     operatorCode();
+    limits();
     english();
     erased();
     korean();

@@ -21,6 +21,7 @@ private:
     void address();
     void numbers();
     void operatorCode();
+    void limits();
     void english();
     void erased();
     void korean();
