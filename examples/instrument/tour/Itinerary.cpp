@@ -124,7 +124,8 @@ void Itinerary::looksIn(const std::string& strName, const std::string& strLocale
     const std::string strPrefix = strName + "-";
     claim(add(strPrefix + "measure", "measure", {tap("measure")}), "the reading is above its limit",
           [this] { return analyser().channels()[0].isAboveLimit(); });
-    add(strPrefix + "averaging", "measure", {tap("cond"), tap("mean"), tick("", 3)});
+    add(strPrefix + "limits", "limits", {tap("limit")});
+    add(strPrefix + "averaging", "measure", {tap("back"), tap("cond"), tap("mean"), tick("", 3)});
     add(strPrefix + "results", "results", {goHome(), tap("results")});
     add(strPrefix + "question", "results", {tap("clear")}).strDialog = "question";
     add(strPrefix + "settings", "settings", {tap("no"), goHome(), tap("settings")});
