@@ -46,9 +46,9 @@ def main():
         owners = {}
         for package, path in packages.items():
             for file in files(path):
-                expect_single = owners.setdefault(file, package)
-                if expect_single != package:
-                    sys.exit(f"FAILED: {file} is in {expect_single} and in {package}")
+                owner = owners.setdefault(file, package)
+                if owner != package:
+                    sys.exit(f"FAILED: {file} is in {owner} and in {package}")
             copyright_file = f"./usr/share/doc/{package}/copyright"
             expect(owners.get(copyright_file) == package, f"{package} tells its licence")
             run("dpkg-deb", "-x", path, folder / "root")

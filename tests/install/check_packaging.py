@@ -44,8 +44,7 @@ def logical_lines(path):
 def check_recipes(folder, project, version):
     for path in sorted(folder.iterdir()):
         for line in logical_lines(path):
-            expect_line = LINE.match(line)
-            if not expect_line:
+            if not LINE.match(line):
                 sys.exit(f"FAILED: {path.name}: {line}")
     expect(True, "each line of the recipes is an assignment, an inherit or a comment")
     text = (folder / "qtpanfx.inc").read_text(encoding="utf-8")
