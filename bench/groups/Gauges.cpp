@@ -22,15 +22,8 @@ const Likeness likeTabs{0.2, 0.003}; // less than the labels
 void measureTabLoad(Run& run)
 {
     Lineup lineup(run.site);
-    lineup.comparePictures(run.table, oneFullTab, run.pictures, likeTabs);
-    std::vector<Course> courses;
-    for (Lineup::Entry& entry : lineup.entries())
-        courses.push_back(loadCourse(entry.name, *entry.pCandidate, oneFullTab));
-    alternate(courses, run.bQuick ? Plan{4} : Plan{51});
-    run.table.group("Tab with 60 widgets and an empty one, live: opened, parsed, built, shown");
-    ratioRows(run.table, courses, 0, {});
-    run.table.group("Tab with 60 widgets and an empty one, painted: live and the first paint");
-    ratioRows(run.table, courses, 1, {});
+    measureLoad(run, lineup, {oneFullTab, "Tab with 60 widgets and an empty one", likeTabs},
+                run.bQuick ? Plan{4} : Plan{51});
 }
 
 void measureTabSwitch(Run& run)

@@ -125,6 +125,19 @@ Course changeCourse(const std::string& name, Candidate& candidate,
             }};
 }
 
+void measureLoad(Run& run, Lineup& lineup, const LoadedPage& page, const Plan& plan)
+{
+    lineup.comparePictures(run.table, page.name, run.pictures, page.likeness);
+    std::vector<Course> courses;
+    for (Lineup::Entry& entry : lineup.entries())
+        courses.push_back(loadCourse(entry.name, *entry.pCandidate, page.name));
+    alternate(courses, plan);
+    run.table.group(page.title + ", live: opened, parsed, built, shown");
+    ratioRows(run.table, courses, 0, page.live);
+    run.table.group(page.title + ", painted: live and the first paint");
+    ratioRows(run.table, courses, 1, page.painted);
+}
+
 void ratioRows(Table& table, const std::vector<Course>& courses, std::size_t lap, Goal goal)
 {
     const double floor = courses.front().laps[lap].median();

@@ -3,6 +3,7 @@
 #include "Candidate.h"
 #include "Harness.h"
 #include "Table.h"
+#include "groups/Groups.h"
 
 #include <functional>
 #include <memory>
@@ -57,6 +58,20 @@ Course loadCourse(const std::string& name, Candidate& candidate, const std::stri
 /** What a candidate does for @p change until it is painted, on the page that it has loaded. */
 Course changeCourse(const std::string& name, Candidate& candidate,
                     const std::function<void(Candidate&)>& change);
+
+/** A page whose way from its file to the screen is measured. */
+struct LoadedPage
+{
+    std::string name;
+    std::string title; ///< in the table
+    Likeness likeness = {};
+    Goal live = {};
+    Goal painted = {};
+};
+
+/** Compares what the candidates paint for a page, and writes the rows of its load: live, painted.
+ */
+void measureLoad(Run& run, Lineup& lineup, const LoadedPage& page, const Plan& plan);
 
 /** Rows of one lap: medians and ratios to the first course; the goal is the library's. */
 void ratioRows(Table& table, const std::vector<Course>& courses, std::size_t lap, Goal goal);

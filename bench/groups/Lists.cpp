@@ -21,28 +21,27 @@ constexpr const char* listName = "list10x6";
 const Likeness likeTexts{0.005, 0.005}; // hardly more is painted than 60 short texts
 const QPoint touchedCell(370, 216);     // in row 4, column 3
 
-std::string nameOf(const std::string& key)
+Lineup listLineup(const Site& site, const std::vector<std::string>& keys)
 {
-    return key == "plain" ? "QUiLoader, QTableWidget" : maker(key).name;
+    Lineup lineup(site, keys);
+    for (Lineup::Entry& entry : lineup.entries()) {
+        if (entry.key == "plain")
+            entry.name = "QUiLoader, QTableWidget";
+    }
+    return lineup;
 }
 
-void measureLoad(Run& run)
+void measureListLoad(Run& run)
 {
-    Lineup lineup(run.site, {"code", "ours", "plain", "qml-memory", "qml-cache", "qml-text"});
-    lineup.comparePictures(run.table, listName, run.pictures, likeTexts);
-    std::vector<Course> courses;
-    for (Lineup::Entry& entry : lineup.entries())
-        courses.push_back(loadCourse(nameOf(entry.key), *entry.pCandidate, listName));
-    alternate(courses, run.bQuick ? Plan{4} : Plan{51});
-    run.table.group("List of 10 rows by 6 columns, live: opened, parsed, built, shown");
-    ratioRows(run.table, courses, 0, {});
-    run.table.group("List of 10 rows by 6 columns, painted: live and the first paint");
-    ratioRows(run.table, courses, 1, {});
+    Lineup lineup =
+        listLineup(run.site, {"code", "ours", "plain", "qml-memory", "qml-cache", "qml-text"});
+    measureLoad(run, lineup, {listName, "List of 10 rows by 6 columns", likeTexts},
+                run.bQuick ? Plan{4} : Plan{51});
 }
 
 void measureRefill(Run& run)
 {
-    Lineup lineup(run.site, {"code", "ours", "plain", "qml-memory"});
+    Lineup lineup = listLineup(run.site, {"code", "ours", "plain", "qml-memory"});
     Likeness refilled = likeTexts;
     refilled.change = [](Candidate& candidate) { candidate.refill(cellTexts(7)); };
     lineup.comparePictures(run.table, listName, {}, refilled);
@@ -52,7 +51,7 @@ void measureRefill(Run& run)
     for (Lineup::Entry& entry : lineup.entries()) {
         entry.pCandidate->load(listName);
         settle();
-        courses.push_back(changeCourse(nameOf(entry.key), *entry.pCandidate, refill));
+        courses.push_back(changeCourse(entry.name, *entry.pCandidate, refill));
     }
     alternate(courses, run.bQuick ? Plan{5} : Plan{51});
     run.table.group("Other texts in all 60 cells until painted, as after a turn of the page");
@@ -117,7 +116,7 @@ void childCellTouch(const Site& site, int turns)
 void measureLists(Run& run)
 {
     run.site.write(listPage(listName));
-    measureLoad(run);
+    measureListLoad(run);
     measureRefill(run);
     measureCellTouch(run);
     measureLongText(run);

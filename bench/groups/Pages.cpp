@@ -15,20 +15,6 @@ constexpr Goal paintedGoal{1.15};
 constexpr Goal growthGoal{10.5};
 constexpr Goal switchGoal{1.1};
 
-void measureLoads(Run& run, Lineup& lineup, const std::string& page, const std::string& title,
-                  const Plan& plan, Goal painted)
-{
-    lineup.comparePictures(run.table, page, run.pictures);
-    std::vector<Course> courses;
-    for (Lineup::Entry& entry : lineup.entries())
-        courses.push_back(loadCourse(entry.name, *entry.pCandidate, page));
-    alternate(courses, plan);
-    run.table.group(title + ", live: opened, parsed, built, shown");
-    ratioRows(run.table, courses, 0, liveGoal);
-    run.table.group(title + ", painted: live and the first paint");
-    ratioRows(run.table, courses, 1, painted);
-}
-
 void measureGrowth(Run& run, Lineup& lineup, const std::string& small, const std::string& large)
 {
     std::vector<Course> courses;
@@ -76,18 +62,22 @@ void measurePageLoads(Run& run)
     const Plan plan = run.bQuick ? Plan{4} : Plan{51};
     const Plan largePlan = run.bQuick ? Plan{2, 1, 2} : Plan{16, 2, 4};
     Lineup lineup(run.site);
-    measureLoads(run, lineup, pictures60, "Page load, 60 image boxes", plan, paintedGoal);
-    measureLoads(run, lineup, pictures600, "Page load, 600 image boxes", largePlan, {});
+    measureLoad(run, lineup, {pictures60, "Page load, 60 image boxes", {}, liveGoal, paintedGoal},
+                plan);
+    measureLoad(run, lineup, {pictures600, "Page load, 600 image boxes", {}, liveGoal}, largePlan);
     measureGrowth(run, lineup, pictures60, pictures600);
     if (!libraryHasButtons()) {
         run.table.group("Page load, 24 buttons, 24 labels, 12 image boxes");
         run.table.note("not measured: the library makes no buttons");
         return;
     }
-    measureLoads(run, lineup, common60, "Page load, 24 buttons, 24 labels, 12 image boxes", plan,
-                 paintedGoal);
-    measureLoads(run, lineup, common600, "Page load, 240 buttons, 240 labels, 120 image boxes",
-                 largePlan, {});
+    measureLoad(
+        run, lineup,
+        {common60, "Page load, 24 buttons, 24 labels, 12 image boxes", {}, liveGoal, paintedGoal},
+        plan);
+    measureLoad(run, lineup,
+                {common600, "Page load, 240 buttons, 240 labels, 120 image boxes", {}, liveGoal},
+                largePlan);
     measureGrowth(run, lineup, common60, common600);
 }
 
