@@ -11,7 +11,7 @@ namespace PANFx::Components {
 template <typename Component>
 void deleteLiving(const QWidget& owner, Component*& component)
 {
-    if (ZELComponent::isPartOf(&owner, component))
+    if (ZELComponent::liesIn(&owner, component))
         delete component;
     component = nullptr;
 }

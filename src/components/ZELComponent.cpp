@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <stdexcept>
-#include <unordered_set>
+#include <unordered_map>
 #include <utility>
 
 namespace PANFx::Components {
@@ -15,11 +15,31 @@ using TAMFx::Common::Xml::Node;
 
 namespace {
 
-// Every component there is. Never freed: a component may outlive the static objects.
-std::unordered_set<const ZELComponent*>& livingComponents()
+// Every component there is, and the widget that it was first found to be a part of. Never freed: a
+// component may outlive the static objects.
+std::unordered_map<const ZELComponent*, const QWidget*>& livingComponents()
 {
-    static auto* const components = new std::unordered_set<const ZELComponent*>;
+    static auto* const components = new std::unordered_map<const ZELComponent*, const QWidget*>;
     return *components;
+}
+
+// unlike QWidget::isAncestorOf this goes on above a window, which may be a part as well
+bool isInside(const QWidget* pWidget, const QWidget* pPart)
+{
+    do
+        pPart = pPart->parentWidget();
+    while (pPart && pPart != pWidget);
+    return pPart != nullptr;
+}
+
+// By index, since what is shown or hidden may add parts or take some out.
+void forEachPart(ZELComponent& owner, void (ZELComponent::*operation)())
+{
+    for (std::size_t i = 0; i < owner.m_dqSubComponents.size(); ++i) {
+        ZELComponent* const component = owner.m_dqSubComponents[i];
+        if (ZELComponent::isPartOf(owner.getQWidget(), component))
+            (component->*operation)();
+    }
 }
 
 } // namespace
@@ -28,7 +48,7 @@ ZELComponent::ZELComponent(std::string strID, std::string strType)
     : ZELWindow(std::move(strID))
     , m_strType(std::move(strType))
 {
-    livingComponents().insert(this);
+    livingComponents().emplace(this, nullptr);
 }
 
 ZELComponent::~ZELComponent()
@@ -43,7 +63,22 @@ bool ZELComponent::isAlive(const ZELComponent* pComponent)
 
 bool ZELComponent::isPartOf(const QWidget* pWidget, ZELComponent* pComponent)
 {
-    return isAlive(pComponent) && pWidget->isAncestorOf(pComponent->getQWidget());
+    const auto found = livingComponents().find(pComponent);
+    if (found == livingComponents().end())
+        return false;
+    const QWidget*& home = found->second;
+    if (home == pWidget)
+        return true;
+    if (!isInside(pWidget, pComponent->getQWidget()))
+        return false;
+    if (!home)
+        home = pWidget;
+    return true;
+}
+
+bool ZELComponent::liesIn(const QWidget* pWidget, ZELComponent* pComponent)
+{
+    return isAlive(pComponent) && isInside(pWidget, pComponent->getQWidget());
 }
 
 void ZELComponent::createSubComponent(Node* pLayout)
@@ -62,20 +97,14 @@ void ZELComponent::createSubComponent(Node* pLayout)
 
 void ZELComponent::showSubComponent()
 {
-    for (ZELComponent* component : m_dqSubComponents) {
-        if (isPartOf(getQWidget(), component))
-            component->showWindow();
-    }
+    forEachPart(*this, &ZELComponent::showWindow);
 }
 
 void ZELComponent::setLayout(Node*) {}
 
 void ZELComponent::hideSubComponent()
 {
-    for (ZELComponent* component : m_dqSubComponents) {
-        if (isPartOf(getQWidget(), component))
-            component->hideWindow();
-    }
+    forEachPart(*this, &ZELComponent::hideWindow);
 }
 
 ZELComponent* ZELComponent::getSubComponent(int nIndex)

@@ -71,10 +71,14 @@ public:
     static bool isAlive(const ZELComponent* pComponent);
 
     /**
-     * The same, and whether it lies in @p pWidget: another one may have come to lie where a
-     * component was that an application has deleted.
+     * The same, and whether it is a part of @p pWidget: another one may have come to lie where a
+     * component was that an application has deleted. A part is what lies inside the widget, at any
+     * depth, and what did so when it was made or first asked for, wherever it was moved since.
      */
     static bool isPartOf(const QWidget* pWidget, ZELComponent* pComponent);
+
+    /** Whether it is alive and lies inside @p pWidget now, at any depth. */
+    static bool liesIn(const QWidget* pWidget, ZELComponent* pComponent);
 
     std::string m_strType; ///< kind of the component
 

@@ -12,6 +12,8 @@ namespace PANFx::Components {
 Timer::Timer(QWidget* pOwner)
     : QTimer(pOwner)
     , m_pOwner(pOwner)
+    , m_pGuarded(pOwner)
+    , m_guard(pOwner)
 {
     // the default type drifts by several percent, which a long press shows
     setTimerType(Qt::PreciseTimer);
@@ -23,6 +25,8 @@ Timer::~Timer() = default;
 
 void Timer::timerEvent(QTimerEvent*)
 {
+    if (m_pOwner == m_pGuarded && !m_guard)
+        m_pOwner = nullptr;
     if (m_pOwner)
         QCoreApplication::postEvent(m_pOwner, new ZELEvent(EVENT_TIMER, this, ""));
 }

@@ -2,6 +2,7 @@
 
 #include "common/Export.h"
 
+#include <QPointer>
 #include <QTimer>
 
 class QWidget;
@@ -21,10 +22,15 @@ public:
     explicit Timer(QWidget* pOwner);
     ~Timer() override;
 
-    QWidget* m_pOwner;
+    QWidget* m_pOwner; ///< not owned; null for none
 
 protected:
     void timerEvent(QTimerEvent* pEvent) override;
+
+private:
+    // a timer that was given another parent may live longer than its owner
+    QWidget* m_pGuarded;
+    QPointer<QWidget> m_guard; ///< null once m_pGuarded is gone
 };
 
 } // namespace PANFx::Components

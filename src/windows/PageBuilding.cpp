@@ -63,7 +63,9 @@ void createPageComponents(TAMFx::Common::Xml::Node* pComponents, QWidget& parent
 
 void showComponents(const std::deque<ZELComponent*>& components, const QWidget& page)
 {
-    for (ZELComponent* component : components) {
+    // by index, since what is shown may add parts or take some out
+    for (std::size_t i = 0; i < components.size(); ++i) {
+        ZELComponent* const component = components[i];
         if (ZELComponent::isPartOf(&page, component))
             component->showWindow();
     }

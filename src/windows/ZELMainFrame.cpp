@@ -87,9 +87,25 @@ ZELChildWindow* ZELMainFrame::getZELChildWindow(std::string strID)
     if (ZELChildWindow* window = findChild(strID))
         return window;
     ZELChildWindow* window = createChildWindow(std::move(strID));
-    if (window)
+    if (window) {
         m_dqChildWindows.push_back(window);
+        // an application may delete a page itself
+        connect(window, &QObject::destroyed, &m_pageWatch, [this, window] { forget(window); });
+    }
     return window;
+}
+
+void ZELMainFrame::forget(const ZELChildWindow* pWindow)
+{
+    std::replace_if(
+        m_dqChildWindows.begin(), m_dqChildWindows.end(),
+        [pWindow](const ZELChildWindow* pListed) { return pListed == pWindow; }, nullptr);
+}
+
+bool ZELMainFrame::isListed(const ZELChildWindow* pWindow) const
+{
+    return pWindow && std::find(m_dqChildWindows.begin(), m_dqChildWindows.end(), pWindow) !=
+                          m_dqChildWindows.end();
 }
 
 ZELChildWindow* ZELMainFrame::moveTo(std::string strID, bool bHistory, bool bActivating)
@@ -174,19 +190,21 @@ void ZELMainFrame::removeAllChildWnd(std::string strID)
 {
     m_logger.WriteDebug("[%s] start", "removeAllChildWnd");
     ZELChildWindow* hiddenMain = nullptr;
-    // a copy is walked, and a page that dies is no longer listed: its end may look up other pages
+    // a copy is walked, and a page that dies is no longer listed: its end may look up other pages,
+    // or be the end of others as well
     const std::deque<ZELChildWindow*> windows = m_dqChildWindows;
     for (ZELChildWindow* window : windows) {
-        if (!window || window->m_strID == strID)
+        if (!isListed(window) || window->m_strID == strID)
             continue;
         if (window->m_strID == m_strHiddenMainWindowID) {
             hiddenMain = window;
         } else {
-            std::replace(m_dqChildWindows.begin(), m_dqChildWindows.end(), window,
-                         static_cast<ZELChildWindow*>(nullptr));
+            forget(window);
             deleteWindow(window);
         }
     }
+    if (!isListed(hiddenMain))
+        hiddenMain = nullptr;
     m_dqChildWindows.clear();
     if (hiddenMain)
         m_dqChildWindows.push_back(hiddenMain);

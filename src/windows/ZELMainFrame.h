@@ -123,10 +123,13 @@ private:
     ZELChildWindow* currentWindow();
     void setCurrentWindow(ZELChildWindow* pWindow);
     void deleteWindow(ZELChildWindow* pWindow);
+    void forget(const ZELChildWindow* pWindow);
+    bool isListed(const ZELChildWindow* pWindow) const;
 
     // a page that was spared is the application's to delete, on screen or not
     ZELChildWindow* m_pShownWindow = nullptr; ///< what move made the current page
     QPointer<QObject> m_pShownAlive;          ///< null once that page is gone
+    QObject m_pageWatch;                      ///< ends with the frame, before the pages do
 };
 
 } // namespace PANFx::Windows

@@ -252,6 +252,86 @@ TEST_F(ZELComponentTest, aPartThatAnApplicationDeletedIsPassedOverAndKeepsItsNum
     EXPECT_EQ(component.getSubComponent(2), c);
 }
 
+TEST_F(ZELComponentTest, aPartThatWasMovedOrMadeAWindowStaysAPart)
+{
+    PlainComponent& component = withParts({"a", "b"});
+    component.createSubComponent(element("<x><label><c/></label></x>"));
+    for (const char* id : {"a", "b", "c"})
+        component.getSubComponent(id);
+    QWidget* const lifted = component.getSubComponent("a")->getQWidget();
+    QWidget* const window = component.getSubComponent("b")->getQWidget();
+    QWidget* const label = component.getSubComponent("c")->getQWidget();
+    lifted->setParent(&panel());
+    window->setWindowFlags(Qt::Tool);
+    label->setParent(&panel());
+    component.showSubComponent();
+    for (QWidget* const part : {lifted, window, label}) {
+        EXPECT_TRUE(part->isVisibleTo(part->parentWidget()) || part->isVisible());
+        ZELComponent* const found = component.findByWidget(part);
+        ASSERT_NE(found, nullptr);
+        EXPECT_EQ(component.getSubComponent(found->m_strID), found);
+    }
+    component.hideSubComponent();
+    for (QWidget* const part : {lifted, window, label})
+        EXPECT_TRUE(part->isHidden());
+    component.deleteSubComponent("c");
+    EXPECT_EQ(component.ids(), (Ids{"b", "c"}));
+}
+
+TEST_F(ZELComponentTest, aPartFromALayoutIsAPartBeforeItIsAskedFor)
+{
+    auto* const component = new PlainComponent(&panel(), "whole");
+    component->createSubComponent(element("<x><label><a/></label></x>"));
+    QWidget* const label = component->getSubComponent(0)->getQWidget();
+    label->setParent(&panel());
+    ZELComponent* const part = component->getSubComponent(0);
+    EXPECT_EQ(component->getSubComponent("a"), part);
+    EXPECT_TRUE(ZELComponent::isPartOf(component, part));
+    EXPECT_FALSE(ZELComponent::liesIn(component, part));
+    EXPECT_TRUE(ZELComponent::liesIn(&panel(), part));
+    EXPECT_FALSE(ZELComponent::isPartOf(nullptr, part));
+    delete part;
+    EXPECT_FALSE(ZELComponent::isPartOf(component, part));
+    EXPECT_FALSE(ZELComponent::liesIn(&panel(), part));
+}
+
+TEST_F(ZELComponentTest, aPartMayAddOthersAndTakeSomeOutWhileItIsShownOrHidden)
+{
+    class Growing : public PlainComponent
+    {
+    public:
+        Growing(PlainComponent* owner, std::vector<std::string>* calls)
+            : PlainComponent(owner, "growing", calls)
+            , m_owner(owner)
+            , m_calls(calls)
+        {
+        }
+        void showWindow() override
+        {
+            PlainComponent::showWindow();
+            for (int i = 0; i < 200; ++i)
+                m_owner->adopt(new PlainComponent(m_owner, "new", i == 199 ? m_calls : nullptr));
+        }
+        void hideWindow() override
+        {
+            PlainComponent::hideWindow();
+            m_owner->m_dqSubComponents.clear();
+        }
+
+    private:
+        PlainComponent* m_owner;
+        std::vector<std::string>* m_calls;
+    };
+    std::vector<std::string> calls;
+    auto* const owner = new PlainComponent(&panel(), "whole");
+    owner->adopt(new Growing(owner, &calls));
+    owner->showSubComponent();
+    EXPECT_EQ(calls, (std::vector<std::string>{"show growing", "show new"}));
+    owner->hideSubComponent();
+    EXPECT_EQ(calls.back(), "hide growing");
+    EXPECT_EQ(owner->getComponentCount(), 0);
+}
+
 TEST_F(ZELComponentTest, withoutSubComponentsShowingAndHidingDoesNothing)
 {
     PlainComponent component(&panel(), "whole");

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <QTimerEvent>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -125,6 +126,21 @@ TEST_F(TimerTest, leavesATickBehindThatWasPostedBeforeItDied)
     const QObject* const address = timer.get();
     timer.reset();
     EXPECT_TRUE(m_page.takeOne().sender == address);
+}
+
+TEST_F(TimerTest, isSilentOnceItsOwnerIsGone)
+{
+    QWidget other;
+    auto owner = std::make_unique<QWidget>();
+    Timer timer(owner.get());
+    timer.setParent(&other);
+    owner.reset();
+    tick(timer);
+    EXPECT_EQ(timer.m_pOwner, nullptr);
+    timer.m_pOwner = &m_page;
+    tick(timer);
+    EXPECT_EQ(m_page.takeOne().sender, &timer) << "another owner may take its place";
+    timer.setParent(nullptr);
 }
 
 TEST_F(TimerTest, isSilentWithoutAnOwner)

@@ -69,6 +69,7 @@ protected:
 TEST_F(ZELChildWindowTest, hasItsVirtualOperationsInTheirFixedOrder)
 {
     const std::intptr_t first = slot(&ZELChildWindow::activating);
+    EXPECT_EQ(first, slot(&Windows::ZELWindow::showSubComponent) + slotSize);
     EXPECT_EQ(slot(&ZELChildWindow::activated), first + slotSize);
     EXPECT_EQ(slot(&ZELChildWindow::powerOffKeyReleased), first + 2 * slotSize);
     EXPECT_EQ(slot(&ZELChildWindow::CoverClose), first + 3 * slotSize);
@@ -427,6 +428,20 @@ TEST_F(ZELChildWindowTest, overridesOfADerivedPageAreNotReachedByTheConstructor)
     built->createSubComponent(element("<more><label><b/></label></more>"));
     built->showSubComponent();
     EXPECT_EQ(steps(), (Strings{"createSubComponent a", "showSubComponent a"}));
+}
+
+TEST_F(ZELChildWindowTest, findsAndShowsAComponentThatWasMovedOrMadeAWindow)
+{
+    const auto built = pageOf("<label><a/><b/></label>");
+    QWidget* const lifted = built->getSubComponent("a")->getQWidget();
+    QWidget* const window = built->getSubComponent("b")->getQWidget();
+    lifted->setParent(&panel());
+    window->setWindowFlags(Qt::Tool);
+    EXPECT_EQ(built->getSubComponent("a")->getQWidget(), lifted);
+    EXPECT_EQ(built->getSubComponent("b")->getQWidget(), window);
+    built->showSubComponent();
+    EXPECT_FALSE(lifted->isHidden());
+    EXPECT_FALSE(window->isHidden());
 }
 
 TEST_F(ZELChildWindowTest, theLayoutStaysForTheLifeOfThePage)

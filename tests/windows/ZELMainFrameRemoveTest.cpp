@@ -369,6 +369,42 @@ TEST_F(ZELMainFrameRemoveTest, aDeadPageOnScreenIsNotTouchedByTheWayBackEither)
     EXPECT_EQ(frame().history(), Strings{"a"});
 }
 
+// ---- pages that an application deletes itself
+
+TEST_F(ZELMainFrameRemoveTest, aPageThatTheApplicationDeletedIsUnknownAndMadeAnew)
+{
+    visit({"a", "b", "c"});
+    delete frame().findChild("a");
+    EXPECT_EQ(frame().findChild("a"), nullptr);
+    EXPECT_EQ(deaths(), Strings{"a"});
+    EXPECT_EQ(frame().moveBack()->m_strID, "b");
+    EXPECT_EQ(frame().moveBack()->m_strID, "a");
+    delete frame().findChild("c");
+    frame().removeAllChildWnd("a");
+    EXPECT_EQ(deaths(), (Strings{"c", "b"}));
+}
+
+TEST_F(ZELMainFrameRemoveTest, aPageThatDiesWithAnotherIsNotDeletedTwice)
+{
+    visit({"a", "b", "c", "a"});
+    ZELChildWindow* const outer = frame().findChild("b");
+    frame().findChild("c")->setParent(outer);
+    const QPointer<QWidget> inner = watch(frame().findChild("c"));
+    frame().removeAllChildWnd("a");
+    EXPECT_TRUE(inner.isNull());
+    EXPECT_EQ(deaths(), (Strings{"b", "c"}));
+}
+
+TEST_F(ZELMainFrameRemoveTest, theHiddenMainPageMayDieWithAnotherOne)
+{
+    frame().setHiddenMainWindowID("hidden");
+    visit({"hidden", "a", "b"});
+    frame().findChild("hidden")->setParent(frame().findChild("a"));
+    frame().removeAllChildWnd("b");
+    EXPECT_EQ(liveIds(), "a ") << "made anew by the way back";
+    EXPECT_EQ(deaths(), (Strings{"a", "hidden"}));
+}
+
 TEST_F(ZELMainFrameRemoveTest, sparedPagesThatNobodyDeletesGoWithTheFrame)
 {
     auto other = std::make_unique<FrameForTest>();

@@ -6,6 +6,7 @@
 #include "support/JournalPage.h"
 #include "support/Pixels.h"
 #include "support/SystemFaults.h"
+#include "support/VirtualSlot.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -55,6 +56,23 @@ TEST_F(ZELMainFrameTest, isAFramelessWindowThatFillsThePanel)
     EXPECT_EQ(frame.minimumSize(), QSize(800, 480));
     EXPECT_EQ(frame.maximumSize(), QSize(800, 480));
     EXPECT_FALSE(frame.isVisible());
+}
+
+TEST_F(ZELMainFrameTest, hasOneVirtualOperationBehindThoseOfQt)
+{
+    class AnyWindow : public QMainWindow
+    {
+    public:
+        virtual void next() {}
+    };
+    class AnyFrame : public ZELMainFrame
+    {
+    public:
+        virtual void next() {}
+    };
+    const std::intptr_t first = slot(&AnyWindow::next);
+    EXPECT_EQ(slot(&ZELMainFrame::createChildWindow), first);
+    EXPECT_EQ(slot(&AnyFrame::next), first + slotSize);
 }
 
 TEST_F(ZELMainFrameTest, keepsItsSizeAndPlaceWhenItIsShown)

@@ -181,6 +181,20 @@ TEST_F(ZELPopupWindowTest, whatLiesWhereADeletedComponentWasIsNotTouched)
     EXPECT_EQ(shown->getSubComponent("yes"), nullptr);
 }
 
+TEST_F(ZELPopupWindowTest, findsAndShowsAComponentThatWasMovedOrMadeAWindow)
+{
+    const auto shown = dialog(button("yes") + button("no"));
+    auto* const yes = shown->getSubComponent("yes")->getQWidget();
+    auto* const no = shown->getSubComponent("no")->getQWidget();
+    yes->setParent(&panel());
+    no->setWindowFlags(Qt::Tool);
+    EXPECT_EQ(shown->getSubComponent("yes")->getQWidget(), yes);
+    EXPECT_EQ(shown->getSubComponent("no")->getQWidget(), no);
+    shown->showSubComponent();
+    EXPECT_FALSE(yes->isHidden());
+    EXPECT_FALSE(no->isHidden());
+}
+
 TEST_F(ZELPopupWindowTest, tellsThatTheSectionIsMissing)
 {
     writeLayout("ask", "<layout/>");

@@ -60,13 +60,16 @@ public:
     /** What a click does: selects the button's id and unchecks the others; null does nothing. */
     void eventButtonPress(ZELRadioButton* pButton);
 
-    std::string m_strSelected; ///< id of the selected button
-
 protected:
     bool event(QEvent* pEvent) override;
 
     TAMFx::Data::Collection::HashTable m_buttons; ///< id to button, delete flag false
     bool m_bFlag = false;                         ///< read by nothing
+
+public:
+    std::string m_strSelected; ///< id of the selected button
+
+protected:
     Common::SysLogger m_logger{"QTPANFx", "ZELRadioGroup"};
 
 private:

@@ -129,7 +129,7 @@ void ZELImageIPEdit::setText(std::string strText)
 void ZELImageIPEdit::addText(const char* pszText)
 {
     if (pszText)
-        addText(std::string(pszText));
+        ZELImageIPEdit::addText(std::string(pszText));
 }
 
 void ZELImageIPEdit::addText(std::string strText)

@@ -244,8 +244,9 @@ void ZELImageNumberEdit::paintEvent(QPaintEvent*)
     const Font* font = m_bDimMode && m_pDimFont ? m_pDimFont : m_pFont;
     if (!setTextStyle(painter, font, m_logger))
         return;
-    if (!m_strNumber.empty() || m_strPlaceholder.empty())
-        painter.drawText(m_paddingRect, m_nAlign, QString::fromUtf8(m_strNumber.c_str()));
+    const std::string value = text(); // a derived class may show another one
+    if (!value.empty() || m_strPlaceholder.empty())
+        painter.drawText(m_paddingRect, m_nAlign, QString::fromUtf8(value.c_str()));
     else if (!m_pFont)
         tellNoFont(m_logger, "paintEvent");
     else

@@ -9,6 +9,12 @@ namespace {
 constexpr int chineseUnit = 2; // characters
 constexpr std::size_t pageLetters = 256;
 
+/** Whether a cut there leaves the first half of a character that takes two QChars. */
+bool endsInHalf(const QString& strText, int nTo)
+{
+    return nTo > 0 && strText.at(nTo - 1).isHighSurrogate();
+}
+
 } // namespace
 
 LineBreaker::LineBreaker(const QFont& font, bool bChinese)
@@ -84,7 +90,8 @@ float LineBreaker::advanceOf(QChar letter)
 
 // To measure a line for each further word would cost many times what shaping the text costs. What
 // the letters take one by one is near what the line takes, so it tells where to begin; but only the
-// line as a whole decides. More text never takes less room.
+// line as a whole decides. More text never takes less room, but for a character that is cut in two:
+// half of it is drawn as a box. From there on unit after unit is measured.
 std::size_t LineBreaker::firstBehindLine(const QString& strParagraph, int nFrom, std::size_t nNext,
                                          int nWidth) const
 {
@@ -94,7 +101,8 @@ std::size_t LineBreaker::firstBehindLine(const QString& strParagraph, int nFrom,
     };
     const float end = advanceTo(nFrom) + static_cast<float>(nWidth);
     std::size_t unit = nNext;
-    while (unit < m_units.size() && advanceTo(m_units[unit].to) <= end)
+    while (unit < m_units.size() && advanceTo(m_units[unit].to) <= end &&
+           !endsInHalf(strParagraph, m_units[unit].to))
         ++unit;
     const std::size_t guess = unit;
     while (unit < m_units.size() && fits(unit))

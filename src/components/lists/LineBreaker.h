@@ -17,8 +17,9 @@ namespace PANFx::Components {
  * what fits, and what is too long for a line isn't cut.
  *
  * Taken for granted is that more text never takes less room. That holds for the scripts of the
- * instrument's languages; a ligature or a joined emoji that is cut in two may take more room than
- * the whole one, and a line may then end elsewhere than by measuring unit after unit.
+ * instrument's languages, and characters of two QChars, which a cut in Chinese may halve, are seen
+ * to; a joined emoji that is cut in two may take more room than the whole one, and a line may then
+ * end elsewhere than by measuring unit after unit.
  */
 class QTPANFX_EXPORT LineBreaker
 {

@@ -18,6 +18,7 @@
 #include "events/ZELRangeEvent.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
@@ -29,6 +30,8 @@ using TAMFx::Common::Xml::Attribute;
 using TAMFx::Common::Xml::Node;
 
 namespace {
+
+constexpr long long mostLength = 1 << 24; // pixels, beyond every screen
 
 bool hasValue(Node* node, const char* name, const char* value)
 {
@@ -259,7 +262,11 @@ void ZELComboList::draw()
 // which lies at the field, where it opens upward.
 void ZELComboList::fit()
 {
-    const int rowHeight = m_nHeight / m_nListCount;
+    // entries may be more than rows when rows were deleted, and the product beyond an int
+    const long long rowHeight = m_nHeight / m_nListCount;
+    const auto heightOf = [rowHeight](int nRows) {
+        return static_cast<int>(std::clamp<long long>(nRows * rowHeight, -mostLength, mostLength));
+    };
     const bool onePage = m_nTotalPage == 1;
     const int rows = onePage ? getItemCount() : m_nListCount;
     int listWidth = m_nWidth;
@@ -267,8 +274,8 @@ void ZELComboList::fit()
         scroll()->hideWindow();
         listWidth -= scroll()->width();
     }
-    const int top = m_bUp ? m_nY + (m_nListCount - rows) * rowHeight : y();
-    setGeometry(x(), top, listWidth, rows * rowHeight);
+    const int top = m_bUp ? m_nY + heightOf(m_nListCount - rows) : y();
+    setGeometry(x(), top, listWidth, heightOf(rows));
     if (!onePage && scroll())
         scroll()->showWindow();
 }
@@ -338,7 +345,10 @@ void ZELComboList::handleRow(const ZELListEvent& event)
 {
     if (event.m_nColumn == m_nItemIndex && event.m_pSender)
         choose(event.m_pSender);
-    const int rank = m_bUp ? getItemCount() - 1 - event.m_nRow : event.m_nRow;
+    // the event may be an application's own, with any row
+    const long long fromTop = getItemCount() - 1LL - event.m_nRow;
+    const int rank =
+        m_bUp ? static_cast<int>(std::clamp<long long>(fromTop, INT_MIN, INT_MAX)) : event.m_nRow;
     postToParent(
         this,
         std::make_unique<ZELListEvent>(event.type(), this, m_strID, rank, event.m_nColumn, false),

@@ -127,12 +127,18 @@ bool ZELLineEdit::setDimImage(std::string strStart, std::string strMid, std::str
                      m_pDimMid, m_pDimEnd);
 }
 
+// A field without a frame for the press keeps the one it has.
+bool ZELLineEdit::hasDownImage() const
+{
+    return m_pDownStart || m_pDownMid || m_pDownEnd;
+}
+
 void ZELLineEdit::setDimMode(bool bDimMode)
 {
     m_bDimMode = bDimMode;
     if (bDimMode)
         setCurImage(m_pDimStart, m_pDimMid, m_pDimEnd);
-    else if (hasFocus())
+    else if (hasFocus() && hasDownImage())
         setCurImage(m_pDownStart, m_pDownMid, m_pDownEnd);
     else
         setCurImage(m_pUpStart, m_pUpMid, m_pUpEnd);
@@ -155,7 +161,8 @@ void ZELLineEdit::mousePressEvent(QMouseEvent*)
 {
     if (m_bDimMode)
         return;
-    setCurImage(m_pDownStart, m_pDownMid, m_pDownEnd);
+    if (hasDownImage())
+        setCurImage(m_pDownStart, m_pDownMid, m_pDownEnd);
     setFocus(Qt::OtherFocusReason);
     postToParent(this, EVENT_MOUSE_DOWN, m_strID, m_logger, "mousePressEvent");
 }

@@ -120,6 +120,7 @@ protected:
 
 private:
     QString shownText();
+    bool hasDownImage() const;
 
     TellOnce m_noFont;
 };

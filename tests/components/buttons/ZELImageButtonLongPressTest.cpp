@@ -62,6 +62,34 @@ TEST_F(ZELImageButtonLongPressTest, theFirstTickComesByItself)
     EXPECT_EQ(types.back(), EVENT_MOUSE_UP);
 }
 
+TEST_F(ZELImageButtonLongPressTest, ticksGoOnWhenTheFingerSlidesOff)
+{
+    auto* const button = make<Button>(ok("longpress='true'"));
+    const QPoint outside(500, 300);
+    Touch::pressWindow(button, Touch::middleInWindow(button));
+    tick(button);
+    Touch::dragWindow(button, outside);
+    EXPECT_TRUE(button->m_pTimer->isActive());
+    tick(button);
+    Touch::releaseWindow(button, outside);
+    EXPECT_EQ(panel().takeTypes(), (Types{1571, 1571, 1552}));
+}
+
+TEST_F(ZELImageButtonLongPressTest, hiddenOrBlockedBetweenTheTicksItFallsSilent)
+{
+    for (const QEvent::Type type : {QEvent::Hide, QEvent::WindowBlocked}) {
+        auto* const button = make<Button>(ok("longpress='true'"));
+        Touch::press(button);
+        tick(button);
+        tick(button);
+        QEvent event(type);
+        QCoreApplication::sendEvent(button, &event);
+        EXPECT_FALSE(button->m_pTimer->isActive()) << type;
+        EXPECT_FALSE(button->m_bPressed) << type;
+        EXPECT_EQ(panel().takeTypes(), (Types{1571, 1571})) << type;
+    }
+}
+
 TEST_F(ZELImageButtonLongPressTest, eachPressCountsItsTicksAnew)
 {
     auto* const button = make<Button>(ok("longpress='true'"));

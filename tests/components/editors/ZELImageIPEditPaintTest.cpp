@@ -47,6 +47,17 @@ protected:
 
 } // namespace
 
+TEST_F(ZELImageIPEditPaintTest, showsWhatADerivedClassGivesAsItsText)
+{
+    class Named : public Edit
+    {
+    public:
+        using Edit::Edit;
+        std::string text() override { return "gateway"; }
+    };
+    EXPECT_TRUE(shows(make<Named>(field(), "ZELImageIPEdit"), text("gateway")));
+}
+
 TEST_F(ZELImageIPEditPaintTest, addsItsTwoOperationsBehindThoseOfAnEdit)
 {
     const std::vector<std::intptr_t> found = Edit::slotsFromRelease();

@@ -246,6 +246,33 @@ TEST_F(ZELImageIPEditTest, setTextWithNullOrNothingClears)
     EXPECT_EQ(std::memcmp(edit->m_szIP, empty, sizeof empty), 0) << "all thirteen bytes";
 }
 
+TEST_F(ZELImageIPEditTest, neitherFormOfAddTextGoesThroughTheOther)
+{
+    class Handing : public OpenIP
+    {
+    public:
+        using OpenIP::OpenIP;
+        void addText(std::string text) override
+        {
+            ++strings;
+            ZELImageIPEdit::addText(text.c_str());
+        }
+        void addText(const char* text) override
+        {
+            ++literals;
+            ZELImageIPEdit::addText(text);
+        }
+        int strings = 0;
+        int literals = 0;
+    };
+    auto* const edit = make<Handing>("ZELImageIPEdit");
+    edit->addText("1");
+    edit->addText(std::string("0"));
+    EXPECT_EQ(edit->strings, 1);
+    EXPECT_EQ(edit->literals, 1);
+    EXPECT_EQ(edit->text(), "10");
+}
+
 TEST_F(ZELImageIPEditTest, textsGoThroughTheVirtualOperations)
 {
     class Noted : public OpenIP
@@ -272,6 +299,8 @@ TEST_F(ZELImageIPEditTest, textsGoThroughTheVirtualOperations)
     static_cast<ZELImageIPEdit*>(edit)->setText("1.2");
     static_cast<ZELImageIPEdit*>(edit)->setText("");
     EXPECT_EQ(edit->notes, "key 1 key . key 2 text 1.2 clear clear ");
+    EXPECT_TRUE(repaints(edit, [edit] { static_cast<ZELImageIPEdit*>(edit)->setText(""); }))
+        << "whatever clear does";
 }
 
 TEST_F(ZELImageIPEditTest, takesFifteenCharactersAtOnce)

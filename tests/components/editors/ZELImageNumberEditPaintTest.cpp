@@ -54,6 +54,19 @@ TEST_F(ZELImageNumberEditPaintTest, startsEmptyWithItsDefaults)
     EXPECT_EQ(field->m_nMaxLength, 1024u);
 }
 
+TEST_F(ZELImageNumberEditPaintTest, showsWhatADerivedClassGivesAsItsText)
+{
+    class WithUnit : public Edit
+    {
+    public:
+        using Edit::Edit;
+        std::string text() override { return m_strNumber + " kg"; }
+    };
+    auto* const edited = make<WithUnit>(FieldTest::field(), "ZELImageNumberEdit");
+    edited->setText("12");
+    EXPECT_TRUE(shows(edited, text("12 kg")));
+}
+
 TEST_F(ZELImageNumberEditPaintTest, readsTheLayoutOfAnEdit)
 {
     auto* const field = edit("style='pressed' dimstyle='dimmed' align='right'",

@@ -413,7 +413,7 @@ TEST_F(ZELImageNumberEditTest, clearingGoesThroughTheVirtualOperation)
         int clears = 0;
     };
     auto* const edit = make<Cleared>("ZELImageNumberEdit");
-    edit->setText("");
+    EXPECT_TRUE(repaints(edit, [edit] { edit->setText(""); })) << "whatever clear does";
     edit->setText(static_cast<const char*>(nullptr));
     EXPECT_EQ(edit->clears, 2);
 }

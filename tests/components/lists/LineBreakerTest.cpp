@@ -80,6 +80,30 @@ TEST_F(LineBreakerTest, BreaksWhereMeasuringEachWordBreaks)
     }
 }
 
+// In Chinese a line may be broken in the middle of a rare character, and half of one is a box that
+// is wider than the whole. The first unit that does not fit breaks the line all the same.
+TEST_F(LineBreakerTest, BreaksWithinARareCharacterWhereMeasuringEachUnitBreaks)
+{
+    const QString letters = QString::fromUtf8("血液𠮷分𠀀a ");
+    std::mt19937 random(11);
+    for (const int points : {10, 12, 13, 15}) {
+        m_font.setPointSize(points);
+        LineBreaker breaker(m_font, true);
+        const QString fixed = QString::fromUtf8("血液分𠮷");
+        const int whole = QFontMetrics(m_font).horizontalAdvance(fixed);
+        ASSERT_EQ(breaker.linesOf(fixed, whole, whole),
+                  measuredOneByOne(fixed, m_font, true, whole, whole))
+            << points;
+        for (int i = 0; i < 100; ++i) {
+            const QString text = randomText(random, letters, static_cast<int>(random() % 60));
+            const int width = 30 + static_cast<int>(random() % 200);
+            ASSERT_EQ(breaker.linesOf(text, width, width),
+                      measuredOneByOne(text, m_font, true, width, width))
+                << points << " " << text.toStdString() << " " << width;
+        }
+    }
+}
+
 TEST_F(LineBreakerTest, GivesAnEmptyParagraphOneLine)
 {
     EXPECT_EQ(LineBreaker(m_font, false).linesOf(QString(), 100, 100),

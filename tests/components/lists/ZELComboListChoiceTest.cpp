@@ -4,6 +4,8 @@
 #include "components/editors/ZELImageNumberEdit.h"
 #include "components/text/ZELLineEdit.h"
 
+#include <climits>
+
 using namespace PANFx;
 using namespace PANFx::Testing;
 using Components::ZELImageEdit;
@@ -138,6 +140,16 @@ TEST_F(ZELComboListChoiceTest, aSenderThatIsNoneOrNoButtonChoosesNothing)
     }
     EXPECT_EQ(m_edit->text(), "");
     EXPECT_TRUE(list->isVisible());
+}
+
+TEST_F(ZELComboListChoiceTest, aRowNumberFarAwayIsHeldAtTheEndOfItsRange)
+{
+    Combo* const list = opened(combo("direction='UP'"), {"a", "b"});
+    ASSERT_TRUE(list->m_bUp);
+    EXPECT_EQ(handOver(list, {EVENT_MOUSE_UP, Kind::List, INT_MIN, 1}).posted,
+              Posted{inList(1552, INT_MAX, 1)});
+    EXPECT_EQ(handOver(list, {EVENT_MOUSE_UP, Kind::List, INT_MAX, 1}).posted,
+              Posted{inList(1552, 1 - INT_MAX, 1)});
 }
 
 TEST_F(ZELComboListChoiceTest, aLabelInTheColumnOfTheTextsChoosesNothing)

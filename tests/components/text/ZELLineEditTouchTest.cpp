@@ -158,13 +158,18 @@ TEST_F(ZELLineEditTouchTest, theFocusThatGoesOnWhenItIsHiddenIsTold)
     EXPECT_EQ(lost.sender, made);
 }
 
-TEST_F(ZELLineEditTouchTest, withoutAFrameForThePressNoneIsShown)
+TEST_F(ZELLineEditTouchTest, withoutAFrameForThePressTheOneItHasStays)
 {
     OpenLine* const made = make<OpenLine>("<ok style='normal'>" + frameOf(up, "imageup") +
                                           "<position width='200' height='44'/></ok>");
     Touch::tap(made);
-    EXPECT_EQ(current(made), Pieces(3, nullptr));
+    const Pieces atRest = {made->m_pUpStart, made->m_pUpMid, made->m_pUpEnd};
+    EXPECT_EQ(current(made), atRest);
     EXPECT_EQ(panel().takeTypes(), (Types{1551, 1552}));
+    made->setDimMode(true);
+    made->setFocus();
+    made->setDimMode(false);
+    EXPECT_EQ(current(made), atRest);
 }
 
 TEST_F(ZELLineEditTouchTest, neitherCaretNorSelectionFollowsTheFinger)
