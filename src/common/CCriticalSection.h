@@ -3,6 +3,7 @@
 #include "common/Export.h"
 #include "common/Semaphore.h"
 
+/** Locks of the operating system. */
 namespace TAMFx::Util::System {
 
 /**
@@ -13,6 +14,7 @@ namespace TAMFx::Util::System {
 class QTPANFX_EXPORT CCriticalSection : public Semaphore
 {
 public:
+    /** Makes the semaphore, with the lock free. */
     CCriticalSection();
 
     /** Removes the semaphore when its id is above 0; an id of exactly 0 is left in place. */
@@ -32,6 +34,7 @@ public:
 class QTPANFX_EXPORT CriticalSectionGuard
 {
 public:
+    /** Waits until the lock is free and takes it. @param section has to outlive this object */
     explicit CriticalSectionGuard(CCriticalSection& section)
         : m_section(section)
     {

@@ -8,7 +8,7 @@ namespace TAMFx::Util::System {
 class QTPANFX_EXPORT Semaphore
 {
 public:
-    int m_nSemID = -1;
+    int m_nSemID = -1; ///< what semget() gave, not removed by this class
 };
 
 } // namespace TAMFx::Util::System

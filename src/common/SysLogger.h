@@ -4,6 +4,7 @@
 
 #include <string>
 
+/** What every part of the library uses: the log, numbers, and paths of the system. */
 namespace PANFx::Common {
 
 /**

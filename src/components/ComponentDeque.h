@@ -18,6 +18,8 @@ class ZELComponent;
 class QTPANFX_EXPORT ComponentDeque
 {
 public:
+    /// @{
+    /** The types of the std::deque that this stands for. */
     using Deque = std::deque<ZELComponent*>;
     using value_type = Deque::value_type;
     using size_type = Deque::size_type;
@@ -28,19 +30,36 @@ public:
     using const_iterator = Deque::const_iterator;
     using reverse_iterator = Deque::reverse_iterator;
     using const_reverse_iterator = Deque::const_reverse_iterator;
+    /// @}
 
+    /** Empty, and without memory of its own. */
     ComponentDeque();
+
+    /** Copies the entries, not the components; of an empty one no memory is taken. */
     ComponentDeque(const ComponentDeque& other);
+
+    /// @{
+    /** Takes the entries over in place of its own; the components are left alone. */
     ComponentDeque& operator=(const ComponentDeque& other);
     ComponentDeque& operator=(const Deque& components);
+    /// @}
+
     ~ComponentDeque();
 
+    /** The std::deque itself, which is made if need be. Valid as long as this object. */
     operator Deque&() { return made(); }
+
+    /** The std::deque itself, or an empty one that all share. */
     operator const Deque&() const { return present(); }
 
+    /// @{
+    /** As those of std::deque. */
     bool empty() const { return present().empty(); }
     size_type size() const { return present().size(); }
+    /// @}
 
+    /// @{
+    /** As those of std::deque. Those of an empty one are of no use once an entry is put in. */
     iterator begin() { return present().begin(); }
     iterator end() { return present().end(); }
     const_iterator begin() const { return present().begin(); }
@@ -51,27 +70,53 @@ public:
     reverse_iterator rend() { return present().rend(); }
     const_reverse_iterator rbegin() const { return present().rbegin(); }
     const_reverse_iterator rend() const { return present().rend(); }
+    /// @}
 
+    /// @{
+    /** Not checked, as that of std::deque. */
     reference operator[](size_type nIndex) { return present()[nIndex]; }
     const_reference operator[](size_type nIndex) const { return present()[nIndex]; }
+    /// @}
+
+    /// @{
     /** @throw std::out_of_range for a bad index */
     reference at(size_type nIndex) { return present().at(nIndex); }
     const_reference at(size_type nIndex) const { return present().at(nIndex); }
+    /// @}
+
+    /// @{
+    /** Not to be called on an empty deque, as that of std::deque. */
     reference front() { return present().front(); }
     const_reference front() const { return present().front(); }
     reference back() { return present().back(); }
     const_reference back() const { return present().back(); }
+    /// @}
 
+    /// @{
+    /** Puts an entry in, null too; the component stays its owner's. */
     void push_front(ZELComponent* pComponent) { made().push_front(pComponent); }
     void push_back(ZELComponent* pComponent) { made().push_back(pComponent); }
+    /// @}
+
+    /// @{
+    /** Takes an entry out and deletes nothing. Not to be called on an empty deque. */
     void pop_front() { present().pop_front(); }
     void pop_back() { present().pop_back(); }
+    /// @}
+
+    /** Puts an entry before a place, null too. @return the place of the new entry */
     iterator insert(const_iterator place, ZELComponent* pComponent);
+
+    /// @{
+    /** Takes entries out and deletes no component. @return the place behind them */
     iterator erase(const_iterator place) { return present().erase(place); }
     iterator erase(const_iterator first, const_iterator last)
     {
         return present().erase(first, last);
     }
+    /// @}
+
+    /** Takes all entries out and deletes no component. */
     void clear() { present().clear(); }
 
 private:

@@ -50,11 +50,12 @@ public:
                                        TAMFx::Common::Xml::Node* pLayout);
 
 protected:
+    /** For getInstance() only. */
     ComponentFactory();
 
     Common::SysLogger m_logger{"QTPANFx", "ComponentFactory"};
 
-    static ComponentFactory* m_pInstance;
+    static ComponentFactory* m_pInstance; ///< owned; null until first used
 };
 
 } // namespace PANFx::Components

@@ -18,8 +18,8 @@ class ZELComponent;
 /** One keyword of a layout file and the component that it makes. */
 struct ComponentEntry
 {
-    const char* keyword;
-    const char* type; ///< the component's type string
+    const char* keyword; ///< name of the group of elements, compared exactly
+    const char* type;    ///< the component's type string
 
     /** Makes the component as a child of the widget. */
     ZELComponent* (*create)(QWidget* pParent, std::string strID, std::string strType,

@@ -10,6 +10,7 @@
 class QObject;
 class QWidget;
 
+/** What stands on a page: the components, the factory that makes them, and what they share. */
 namespace PANFx::Components {
 
 /**
@@ -35,7 +36,10 @@ public:
     /** Calls showWindow() on each sub-component that is still there, in the order of creation. */
     void showSubComponent() override;
 
+    /** Makes the component visible; on the screen it is once all its parents are. */
     virtual void showWindow() = 0;
+
+    /** Hides the component and all within it. */
     virtual void hideWindow() = 0;
 
     /** Reads the attributes of the component's element; does nothing here. */
@@ -53,6 +57,7 @@ public:
     /** The first sub-component with that id; null, with no log line, when there is none. */
     ZELComponent* getSubComponent(std::string strID);
 
+    /** Number of sub-components, those included that an application has deleted. */
     int getComponentCount();
 
     /**

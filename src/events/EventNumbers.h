@@ -1,9 +1,12 @@
 #pragma once
 
-#include <QEvent>
+/**
+ * @file
+ * Type numbers of the posted events. All lie above QEvent::User; numbers between those listed
+ * have no meaning. The comments name the event class.
+ */
 
-// Type numbers of the posted events. All lie above QEvent::User; numbers between those listed
-// have no meaning. The comments name the event class.
+#include <QEvent>
 
 constexpr QEvent::Type EVENT_WINDOW_ACTIVATE = QEvent::Type(1550); ///< ZELEvent: brought up
 constexpr QEvent::Type EVENT_MOUSE_DOWN = QEvent::Type(1551);      ///< ZELEvent: press on an edit

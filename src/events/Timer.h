@@ -22,7 +22,7 @@ public:
     explicit Timer(QWidget* pOwner);
     ~Timer() override;
 
-    QWidget* m_pOwner; ///< not owned; null for none
+    QWidget* m_pOwner; ///< not owned; gets the ticks, null gets none
 
 protected:
     void timerEvent(QTimerEvent* pEvent) override;

@@ -1,5 +1,10 @@
 #pragma once
 
+/**
+ * @file
+ * What the two events of a software update share: their items as entries of a collection.
+ */
+
 #include "common/SysLogger.h"
 #include "common/tamfx/ArrayList.h"
 #include "common/tamfx/Object.h"
@@ -11,6 +16,7 @@ template <typename Item>
 class UpdateItemHolder : public TAMFx::Data::Object
 {
 public:
+    /** Holds a copy of @p item. */
     explicit UpdateItemHolder(const Item& item)
         : m_item(item)
     {

@@ -16,13 +16,14 @@ public:
     /** Detail 0, no flags and the values given. */
     ZELErrorEvent(QEvent::Type type, unsigned int nCode, char cKind, std::string strMessage);
 
+    /** Copies all; the copy has not been posted. */
     ZELErrorEvent(const ZELErrorEvent& other);
     ~ZELErrorEvent() override;
 
     std::string getClassType() override;
 
-    unsigned int m_nCode = 0;
-    char m_cKind = ' ';
+    unsigned int m_nCode = 0; ///< what the application makes it mean, as the rest
+    char m_cKind = ' ';       ///< 'A' and ' ' are what the constructors set; any other is kept
     std::string m_strMessage;
     unsigned int m_nDetail = 0;
     bool m_bFlag1 = false;

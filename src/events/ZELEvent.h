@@ -13,8 +13,13 @@
 class QTPANFX_EXPORT ZELEvent : public QEvent
 {
 public:
+    /** Without a sender and an id. */
     explicit ZELEvent(QEvent::Type type);
+
+    /** Without a sender. */
     ZELEvent(QEvent::Type type, std::string strID);
+
+    /** @param pSender not owned; null for none */
     ZELEvent(QEvent::Type type, QObject* pSender, std::string strID);
 
     /** Copies type, sender and id; the copy has not been posted, whatever the original was. */
@@ -23,6 +28,7 @@ public:
 
     ~ZELEvent() override;
 
+    /** Name of the class, by which a receiver knows what to cast to. */
     virtual std::string getClassType();
 
     /**

@@ -12,8 +12,9 @@ public:
 
     std::string getClassType() override;
 
+    /** Replaces the data, which stay the caller's; the old ones are not freed. */
     void setResultData(void* pData);
 
-    int m_nResult;
+    int m_nResult;       ///< what the application makes it mean
     void* m_pResultData; ///< not owned
 };

@@ -11,6 +11,7 @@
 class QTPANFX_EXPORT ZELStringEvent : public ZELEvent
 {
 public:
+    /** Without a sender and an id; the texts are taken as they are. */
     ZELStringEvent(QEvent::Type type, std::string strString1, std::string strString2,
                    std::string strString3, std::string strString4);
     ~ZELStringEvent() override;

@@ -13,6 +13,7 @@
 class QTPANFX_EXPORT ZELUpdateInfoEvent : public ZELEvent
 {
 public:
+    /** Without a sender, an id and items. */
     explicit ZELUpdateInfoEvent(QEvent::Type type);
     ~ZELUpdateInfoEvent() override;
 
@@ -23,6 +24,7 @@ public:
     /** Appends a copy of @p pItem; the caller keeps its own. */
     void addUpdateItem(ZELUpdateInfoItem* pItem);
 
+    /** Number of items, null entries included. */
     int getImageCount();
 
     /** The stored item, still owned by the event; null for an index outside 0 to count - 1. */

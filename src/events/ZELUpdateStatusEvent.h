@@ -13,6 +13,7 @@
 class QTPANFX_EXPORT ZELUpdateStatusEvent : public ZELEvent
 {
 public:
+    /** Without a sender, an id and items. */
     explicit ZELUpdateStatusEvent(QEvent::Type type);
     ~ZELUpdateStatusEvent() override;
 
@@ -23,6 +24,7 @@ public:
     /** Appends a copy of @p pItem; the caller keeps its own. */
     void addUpdateStatusItem(ZELUpdateStatusItem* pItem);
 
+    /** Number of items, null entries included. */
     int getImageCount();
 
     /** The stored item, still owned by the event; null for an index outside 0 to count - 1. */

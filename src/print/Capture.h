@@ -6,6 +6,7 @@
 class QTPANFX_EXPORT Capture
 {
 public:
+    /** Holds nothing: the pictures are taken by a static operation. */
     Capture();
     virtual ~Capture();
 

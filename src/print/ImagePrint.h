@@ -35,6 +35,7 @@ struct termios;
 class QTPANFX_EXPORT ImagePrint
 {
 public:
+    /** Opens nothing: the port is opened by the operations. */
     ImagePrint();
     virtual ~ImagePrint();
 
@@ -48,10 +49,14 @@ public:
      */
     void setImageSize(int width, int height);
 
-    // kept for the interface only: the printout is tuned to fixed fonts, UTF-8 and fixed margins
+    /// @{
+    /**
+     * Kept for the interface only: the printout is tuned to fixed fonts, UTF-8 and fixed margins.
+     */
     void setFont(std::string name, int size);
     void setCodecName(std::string name);
     void setOffset(int x, int y);
+    /// @}
 
     /** @param mode 2 centres the plain line 8 instead of 0; all other values are alike */
     void setPrintMode(int mode);
@@ -130,15 +135,20 @@ public:
     int clearPrintBuffer();
 
 protected:
-    std::int32_t m_nWidth = 384;
+    std::int32_t m_nWidth = 384; ///< dots; what text widths are compared with
+
+    /// @{
+    /** Kept for the interface only. */
     std::int32_t m_nHeight = 20;
     std::string m_strFontName = "Droid Sans Mono";
     std::int32_t m_nFontSize = 24;
     std::string m_strCodecName = "UTF-8";
     std::int32_t m_nOffsetX = 10;
     std::int32_t m_nOffsetY = 32;
-    QString m_strText; ///< the last text printed
-    std::int32_t m_nPrintMode = 0;
+    /// @}
+
+    QString m_strText;                  ///< the last text printed
+    std::int32_t m_nPrintMode = 0;      ///< 2, or any other number
     std::atomic<bool> m_bCancel{false}; ///< set from another thread
     PANFx::Common::SysLogger m_logger{"QTPANFx", "ImagePrint"};
 

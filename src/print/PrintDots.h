@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+/** The steps from a report to the bytes on the printer's line. */
 namespace PANFx::Print {
 
 /** Dots across the paper. */

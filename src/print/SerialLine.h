@@ -1,8 +1,12 @@
 #pragma once
 
+/**
+ * @file
+ * The calls into the system that the way to the printer makes: no other file makes them.
+ */
+
 #include <string>
 
-/** The calls into the system that the way to the printer makes: no other file makes them. */
 namespace PANFx::Print {
 
 /**

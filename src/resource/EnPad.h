@@ -8,6 +8,7 @@ namespace PANFx::Resource {
 class QTPANFX_EXPORT EnPad : public LangPad
 {
 public:
+    /** Holds no text. */
     EnPad();
     EnPad(const EnPad&) = default;
     EnPad& operator=(const EnPad&) = default;

@@ -8,6 +8,7 @@ namespace PANFx::Resource {
 class QTPANFX_EXPORT EspPad : public LangPad
 {
 public:
+    /** Holds no text. */
     EspPad();
     EspPad(const EspPad&) = default;
     EspPad& operator=(const EspPad&) = default;

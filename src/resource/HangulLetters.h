@@ -9,8 +9,8 @@
  */
 namespace PANFx::Resource::HangulLetters {
 
-constexpr int none = -1; ///< no letter
-constexpr int noFinal = 0;
+constexpr int none = -1;              ///< no letter
+constexpr int noFinal = 0;            ///< a syllable that ends in its vowel
 constexpr int firstLetter = 0x3131;   ///< code of ㄱ
 constexpr int lastConsonant = 0x314E; ///< code of ㅎ
 constexpr int lastLetter = 0x3163;    ///< code of ㅣ
@@ -36,6 +36,7 @@ int joinVowels(int first, int second);
 /** The final that two consonants make; none if they don't. */
 int joinFinals(int first, int second);
 
+/** Character of the syllable of an initial, a vowel and a final. */
 ushort syllable(int initial, int vowel, int final);
 
 } // namespace PANFx::Resource::HangulLetters

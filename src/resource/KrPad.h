@@ -17,6 +17,7 @@ namespace PANFx::Resource {
 class QTPANFX_EXPORT KrPad : public LangPad
 {
 public:
+    /** Holds no text, and nothing under composition. */
     KrPad();
     KrPad(const KrPad&) = default;
     KrPad& operator=(const KrPad&) = default;
@@ -92,11 +93,17 @@ protected:
         JONG3    ///< a syllable with a compound final
     };
 
+    /// @{
+    /**
+     * Take one letter as in the state of that name, whatever the state is; the letter sets the next
+     * one.
+     */
     void makeHangle_CHO(int nCode, int nIndex);
     void makeHangle_JOONG(int nCode, int nIndex);
     void makeHangle_JONG1(int nCode, int nIndex);
     void makeHangle_JONG2(int nCode, int nIndex);
     void makeHangle_JONG3(int nCode, int nIndex);
+    /// @}
 
     int m_nCho = -1;          ///< initial, as a consonant
     int m_nJoong1 = -1;       ///< first vowel key

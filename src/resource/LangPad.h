@@ -13,9 +13,10 @@ namespace PANFx::Resource {
 class QTPANFX_EXPORT LangPad
 {
 public:
-    static constexpr int backspaceKey = 8;
-    static constexpr int spaceKey = 0x20;
+    static constexpr int backspaceKey = 8; ///< key that takes the last character back
+    static constexpr int spaceKey = 0x20;  ///< key that appends a blank
 
+    /** Holds no text. */
     LangPad();
     LangPad(const LangPad&) = default;
     LangPad& operator=(const LangPad&) = default;

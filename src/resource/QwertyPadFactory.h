@@ -42,6 +42,8 @@ public:
      * refuses every key and cuts nothing.
      */
     void setMaxLength(int nMaxLength) { m_nMaxLength = nMaxLength; }
+
+    /** The limit as it was set, in characters; 0 at first. */
     int getMaxLength() const { return m_nMaxLength; }
 
     /**

@@ -36,8 +36,8 @@ public:
     /** The registered back end, or null. */
     SoundBase* getSoundObject();
 
-    // Each calls the operation of that name of the back end, which says what it plays.
-
+    /// @{
+    /** Calls the operation of that name of the back end. */
     void playTouchSound();
     void playAlertSound();
     void playPopupSound();
@@ -46,14 +46,16 @@ public:
     void playSystemSound(std::string strSound);
     void playVoiceSound(std::string strSound);
     void playSound(std::string strSound, int nFirst, int nSecond);
+    /// @}
 
 protected:
+    /** For getInstance() only. */
     SoundFactory();
 
     SoundBase* m_pSound = nullptr; ///< owned once registered
     Common::SysLogger m_logger{"QTPANFx", "SoundFactory"};
 
-    static SoundFactory* m_pInstance;
+    static SoundFactory* m_pInstance; ///< owned; null until first used
 };
 
 } // namespace PANFx::Resource

@@ -20,6 +20,7 @@ class Font;
 class QTPANFX_EXPORT ZELFontMgr
 {
 public:
+    /** Without styles, until changeLocale(). */
     ZELFontMgr();
     virtual ~ZELFontMgr();
 
@@ -33,9 +34,9 @@ public:
     void changeLocale(std::string strLocale);
 
     TAMFx::Data::Collection::HashTable m_tableFonts; ///< style name to Font, delete flag false
-    std::string m_strBasePath;
-    std::string m_strStylePath; ///< the file finally used
-    std::string m_strLocale;
+    std::string m_strBasePath;                       ///< as setBasePath() got it
+    std::string m_strStylePath;                      ///< the file finally used
+    std::string m_strLocale;                         ///< "" for the default language
     Common::SysLogger m_logger{"QTPANFx", "ZELFontMgr"};
 };
 

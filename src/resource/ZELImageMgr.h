@@ -23,6 +23,7 @@ namespace PANFx::Resource {
 class QTPANFX_EXPORT ZELImageMgr
 {
 public:
+    /** Without a resource directory, until setBasePath(). */
     ZELImageMgr();
     virtual ~ZELImageMgr();
 
@@ -40,9 +41,9 @@ public:
     QPixmap* getImage(std::string strName);
 
     TAMFx::Data::Collection::HashTable
-        m_tableImages; ///< file name to an entry that leads to the picture
-    std::string m_strBasePath;
-    std::string m_strLocale;
+        m_tableImages;         ///< file name to an entry that leads to the picture
+    std::string m_strBasePath; ///< as setBasePath() got it
+    std::string m_strLocale;   ///< "" for the default language
     Common::SysLogger m_logger{"QTPANFx", "ZELImageMgr"};
 
 private:

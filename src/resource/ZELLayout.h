@@ -12,6 +12,7 @@ namespace PANFx::Resource {
 class QTPANFX_EXPORT ZELLayout
 {
 public:
+    /** Without a file, until loadLayout(). */
     ZELLayout();
     virtual ~ZELLayout();
 
@@ -30,7 +31,7 @@ public:
     std::string getBackgroundImageName();
 
     Common::SysLogger m_logger{"QTPANFx", "ZELLayout"};
-    TAMFx::Common::Xml::XmlDocument m_xmlDoc;
+    TAMFx::Common::Xml::XmlDocument m_xmlDoc; ///< the file; empty after a failed load
 };
 
 } // namespace PANFx::Resource

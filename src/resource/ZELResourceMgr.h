@@ -14,6 +14,7 @@ namespace TAMFx::Data::Properties {
 class FileProperty;
 }
 
+/** What changes with the language, sounds, and the composers of the on-screen keyboard. */
 namespace PANFx::Resource {
 
 class Font;
@@ -67,6 +68,10 @@ public:
     TAMFx::Data::Properties::FileProperty* m_pProperty = nullptr;
 
 protected:
+    /**
+     * Reads the configuration and loads styles and texts; an unknown language becomes the default
+     * one and is written back. Without a configuration no directory is set.
+     */
     ZELResourceMgr();
 
     ZELImageMgr m_imageMgr;
@@ -74,7 +79,7 @@ protected:
     ZELStringMgr m_stringMgr;
     Common::SysLogger m_logger{"QTPANFx", "ZELResourceMgr"};
 
-    static ZELResourceMgr* m_pInstance;
+    static ZELResourceMgr* m_pInstance; ///< owned; null until first used
 
 private:
     void readProperties();

@@ -15,6 +15,7 @@ namespace PANFx::Resource {
 class QTPANFX_EXPORT ZELStringMgr
 {
 public:
+    /** Without texts, until changeLocale(). */
     ZELStringMgr();
     virtual ~ZELStringMgr();
 
@@ -33,7 +34,7 @@ public:
     std::string getLocaleString(std::string strKey);
 
     TAMFx::Data::Collection::HashTable m_tableStrings; ///< key to text
-    std::string m_strBasePath;
+    std::string m_strBasePath;                         ///< as setBasePath() got it
     Common::SysLogger m_logger{"QTPANFx", "ZELStringMgr"};
 };
 

@@ -22,6 +22,7 @@ namespace PANFx::Windows {
 class QTPANFX_EXPORT Dao : public TAMFx::Data::Collection::HashTable
 {
 public:
+    /** Opens nothing. */
     Dao();
     ~Dao() override;
 

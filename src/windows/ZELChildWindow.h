@@ -51,11 +51,16 @@ public:
     /** The page is up. The lock is released: this is where a page may navigate onward. */
     virtual void activated();
 
-    // called by the application only
+    /// @{
+    /**
+     * For the application, which overrides and calls it; does nothing here, and the library never
+     * calls it.
+     */
     virtual void powerOffKeyReleased();
     virtual void CoverClose();
     virtual void CoverOpen();
     virtual void setSampleData();
+    /// @}
 
     /** Makes the background box, with the id "background". */
     void createBackgroundSubComponent(std::string strImage);

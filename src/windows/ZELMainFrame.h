@@ -15,6 +15,7 @@ namespace PANFx::Components {
 class Timer;
 }
 
+/** The frame, its pages and dialogs, and the access to an application's data. */
 namespace PANFx::Windows {
 
 class ZELChildWindow;
@@ -32,6 +33,9 @@ class ZELChildWindow;
 class QTPANFX_EXPORT ZELMainFrame : public QMainWindow
 {
 public:
+    /**
+     * A frameless black window, not shown and without a page. Writes the first lines of the log.
+     */
     ZELMainFrame();
     ~ZELMainFrame() override;
 
@@ -109,12 +113,12 @@ protected:
     TAMFx::Data::Collection::ArrayList m_listReserved1;     ///< the application's
     TAMFx::Data::Collection::ArrayList m_listReserved2;     ///< the application's
     std::string m_strReserved;                              ///< the application's
-    std::string m_strMainWindowID;
-    std::string m_strHiddenMainWindowID;
-    int m_nReserved = 0;                          ///< the application's
-    ZELChildWindow* m_pCurrentWindow = nullptr;   ///< the page on screen
-    std::deque<ZELChildWindow*> m_dqChildWindows; ///< every live page, in order of creation
-    TAMFx::Util::System::CCriticalSection m_csNavigation;
+    std::string m_strMainWindowID;                          ///< "" for none
+    std::string m_strHiddenMainWindowID;                    ///< "" for none
+    int m_nReserved = 0;                                    ///< the application's
+    ZELChildWindow* m_pCurrentWindow = nullptr;             ///< may be gone: ask getCurrentWindow()
+    std::deque<ZELChildWindow*> m_dqChildWindows;         ///< every live page, in order of creation
+    TAMFx::Util::System::CCriticalSection m_csNavigation; ///< held while the page changes
     Common::SysLogger m_logger{"QTPANFx", "ZELMainFrame"};
     Components::Timer* m_pTimer = nullptr; ///< owned; the application's to start
     bool m_bMoveToHiddenMain = false;      ///< what removeAllChildWnd does last

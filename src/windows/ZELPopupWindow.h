@@ -81,6 +81,8 @@ public:
 
     /** A free label for the application. */
     void setPopupTag(std::string strPopupTag);
+
+    /** The label as it was set; "" at first. */
     std::string getPopupTag();
 
     /** The first top-level component with that id; null, with an error line, when there is none. */
@@ -97,7 +99,7 @@ protected:
     Resource::ZELLayout m_layout; ///< kept for the life of the dialog
     Common::SysLogger m_logger{"QTPANFx", "ZELPopupWindow"};
     bool m_bLoopMode = false; ///< showAndWait has been used
-    // shared with a wait in progress, so that a dialog can be deleted under it
+    /** Shared with a wait in progress, so that a dialog can be deleted under it. */
     std::shared_ptr<QEventLoop> m_eventLoop = std::make_shared<QEventLoop>();
     std::string m_strPopupTag;
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+/** Collections of objects and texts. */
 namespace TAMFx::Data::Collection {
 
 /**
@@ -18,6 +19,7 @@ namespace TAMFx::Data::Collection {
 class TAMFX_EXPORT ArrayList
 {
 public:
+    /** Empty, with the delete flag off. */
     ArrayList();
     ArrayList(const ArrayList&) = delete;
     ArrayList& operator=(const ArrayList&) = delete;
@@ -48,13 +50,15 @@ public:
     void setDeleteFlag(bool bDelete) { m_bDelete = bDelete; }
 
 protected:
+    /** What is stored at one position. */
     struct Entry
     {
-        Object* pObject = nullptr;
+        Object* pObject = nullptr;     ///< null where a text is stored; owned with the delete flag
         std::unique_ptr<char[]> pText; ///< null where an object is stored
         std::unique_ptr<char[]> pKey;  ///< null unless the entry was stored under a key
     };
 
+    /** Whether there is an entry at that position. */
     bool isIndex(int nIndex) const { return nIndex >= 0 && nIndex < Count(); }
 
     /** Frees the object of an entry that has left the collection, if the delete flag is set. */

@@ -9,6 +9,7 @@ namespace TAMFx::Data::Properties {
 class FileProperty;
 }
 
+/** Access to the configuration files of a process. */
 namespace TAMFx::Config {
 
 /** Keeps the configuration files that the process has opened, each of them once. */

@@ -3,6 +3,7 @@
 #include "common/tamfx/Export.h"
 #include "common/tamfx/String.h"
 
+/** Exceptions, and files and texts as the foundation handles them. */
 namespace TAMFx::Common {
 
 /**
@@ -16,6 +17,7 @@ namespace TAMFx::Common {
 class TAMFX_EXPORT Exception
 {
 public:
+    /** Copies the text; null counts as "". */
     explicit Exception(const char* pszMessage = "", int nCode = 0);
     Exception(const Exception&) = default;
     Exception& operator=(const Exception&) = default;

@@ -10,6 +10,7 @@ namespace TAMFx::Config {
 class ConfigurationManager;
 }
 
+/** Configuration files. */
 namespace TAMFx::Data::Properties {
 
 /**

@@ -18,6 +18,7 @@ namespace TAMFx::Data::Collection {
 class TAMFX_EXPORT HashTable : public ArrayList
 {
 public:
+    /** Empty, with the delete flag off. */
     HashTable();
     ~HashTable() override;
 

@@ -12,6 +12,7 @@ class Node;
 class TAMFX_EXPORT NodeList
 {
 public:
+    /** Without elements. */
     NodeList();
     virtual ~NodeList();
 

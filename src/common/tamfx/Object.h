@@ -2,6 +2,7 @@
 
 #include "common/tamfx/Export.h"
 
+/** Data in memory and in files. */
 namespace TAMFx::Data {
 
 /** Base of everything that a collection may store and free as an object. */

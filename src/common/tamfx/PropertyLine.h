@@ -23,6 +23,8 @@ public:
 
     /** The key, "" for a line that is no property. */
     const std::string& key() const { return m_strKey; }
+
+    /** The value without quotes and escapes, "" for a line that is no property. */
     const std::string& value() const { return m_strValue; }
 
     /** Changes the value, and the line only if the value is another one. */
@@ -30,6 +32,8 @@ public:
 
     /** The line break of this line, "" when it has none. */
     std::string lineBreak() const;
+
+    /** Puts a line break behind a line, whether it has one already or not. */
     void appendLineBreak(const std::string& strLineBreak) { m_strAfter += strLineBreak; }
 
     /** The whole line as it stands in the file. */

@@ -9,6 +9,7 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
+/** Access to SQLite databases. */
 namespace TAMFx::DB {
 
 /**
@@ -20,6 +21,7 @@ namespace TAMFx::DB {
 class TAMFX_EXPORT Sqlite
 {
 public:
+    /** Without a connection, until Open(). */
     Sqlite();
     Sqlite(const Sqlite&) = delete;
     Sqlite& operator=(const Sqlite&) = delete;

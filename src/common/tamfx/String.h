@@ -1,5 +1,10 @@
 #pragma once
 
+/**
+ * @file
+ * A text buffer, and its comparison with texts.
+ */
+
 #include "common/tamfx/Export.h"
 
 #include <string>
@@ -26,6 +31,8 @@ public:
 
     /** The text, never null; it stays readable until the next change of this object. */
     const char* c_str() const { return m_strText.c_str(); }
+
+    /** As c_str(). */
     operator const char*() const { return m_strText.c_str(); }
 
     /** The buffer itself, NUL-terminated. */
@@ -35,7 +42,11 @@ private:
     std::string m_strText;
 };
 
-// Without these a comparison would compare addresses, through the conversion to const char*.
+/// @{
+/**
+ * Compares the texts; null differs from every text. Without these a comparison would compare
+ * addresses, through the conversion to const char*.
+ */
 inline bool operator==(const String& left, const char* pszRight)
 {
     return pszRight && std::string(left.c_str()) == pszRight;
@@ -52,3 +63,4 @@ inline bool operator!=(const String& left, const String& right)
 {
     return !(left == right);
 }
+/// @}

@@ -14,10 +14,14 @@ namespace TAMFx::Data::Collection {
 class TAMFX_EXPORT Table
 {
 public:
+    /** Without columns and rows. */
     Table();
     ~Table();
 
+    /** Number of columns. */
     int getColumnCount() const { return static_cast<int>(m_columns.size()); }
+
+    /** Number of rows. */
     int getRowCount() const { return static_cast<int>(m_rows.size()); }
 
     /** Name of a column, "" for a bad index. */
@@ -28,10 +32,14 @@ public:
 
     /** Text of a cell. "" for an empty text, a database null and a bad index. */
     const char* getValue(int nRow, int nColumn) const;
+
+    /** The same by the name of the column. */
     const char* getValue(int nRow, const char* pszColumn) const;
 
     /** True for a database null and for a cell that does not exist. */
     bool isNull(int nRow, int nColumn) const;
+
+    /** The same by the name of the column. */
     bool isNull(int nRow, const char* pszColumn) const;
 
     /** Drops rows and columns. */

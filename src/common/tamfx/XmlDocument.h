@@ -5,6 +5,7 @@
 
 #include <cstddef>
 
+/** XML files as trees of elements. */
 namespace TAMFx::Common::Xml {
 
 class NodeList;
@@ -18,6 +19,7 @@ class NodeList;
 class TAMFX_EXPORT XmlDocument : public Node
 {
 public:
+    /** Empty, until a file is loaded. */
     XmlDocument();
     ~XmlDocument() override;
 

@@ -13,6 +13,7 @@ namespace TAMFx::Common::Xml {
 class XmlSource
 {
 public:
+    /** How the content of a file is written. */
     enum class Encoding {
         Utf8,
         Utf16Little,

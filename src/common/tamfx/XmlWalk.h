@@ -20,18 +20,19 @@ namespace TAMFx::Common::Xml {
 class XmlWalk
 {
 public:
+    /** An attribute of an element, for the time of that call. No text is null. */
     struct Attribute
     {
         const char* pszName;
         const char* pszValue;
     };
 
-    /** An element; all of it ends with the call that hands it over. No pointer is null. */
+    /** An element; all of it ends with the call that hands it over. No text is null. */
     struct Element
     {
         const char* pszName;
-        const char* pszText; ///< all pieces; "" for blanks beside child elements
-        const Attribute* pAttributes;
+        const char* pszText;          ///< all pieces; "" for blanks beside child elements
+        const Attribute* pAttributes; ///< in their order; may be null where there are none
         std::size_t nAttributes;
         std::size_t nChildren; ///< child elements
         std::size_t nDepth;    ///< 0 for the root
@@ -50,6 +51,7 @@ public:
          */
         virtual void begin(std::size_t nBytes) = 0;
 
+        /** One element, parents before their children. Its texts are to be copied to be kept. */
         virtual void visit(const Element& element) = 0;
     };
 

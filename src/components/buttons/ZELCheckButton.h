@@ -16,6 +16,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELCheckButton : public ZELImageButton
 {
 public:
+    /** As that of ZELImageButton; the button is unchecked. */
     ZELCheckButton(QWidget* pParent, std::string strID, std::string strType,
                    TAMFx::Common::Xml::Node* pLayout);
     ~ZELCheckButton() override;

@@ -19,6 +19,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELIconCheckButton : public ZELCheckButton
 {
 public:
+    /**
+     * Reads the element twice, as that of an image button first: the "title" and the "textPos" of
+     * one stand where "textL" gives none. A null element is told twice.
+     */
     ZELIconCheckButton(QWidget* pParent, std::string strID, std::string strType,
                        TAMFx::Common::Xml::Node* pLayout);
     ~ZELIconCheckButton() override;
@@ -26,6 +30,7 @@ public:
     void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
     QWidget* getQWidget() override;
 
+    /** Whether the icon is painted; it is at first. */
     void setIconVisible(bool bVisible);
 
     /** The right-hand text; setTitle sets the left-hand one. */
@@ -41,9 +46,9 @@ protected:
     int m_nIconScale = 100;     ///< percent
     int m_nIconAlign = 0;       ///< only 0x84 and 0x82 are told apart
     bool m_bIconVisible = true;
-    std::string m_strSecondText;
-    QRect m_secondTextRect; ///< in widget coordinates; unset means the whole widget
-    int m_nSecondAlign = 0;
+    std::string m_strSecondText; ///< UTF-8, at the right
+    QRect m_secondTextRect;      ///< in widget coordinates; unset means the whole widget
+    int m_nSecondAlign = 0;      ///< Qt alignment flags of the text at the right
     Common::SysLogger m_logger{"QTPANFx", "ZELIconCheckButton"};
 
 private:

@@ -40,6 +40,10 @@ class Timer;
 class QTPANFX_EXPORT ZELImageButton : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * A child of @p pParent, not shown. A null element writes an error line and leaves the button
+     * with neither pictures nor title.
+     */
     ZELImageButton(QWidget* pParent, std::string strID, std::string strType,
                    TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageButton() override;
@@ -52,13 +56,19 @@ public:
     /** Takes the file names of the pictures, the pressed one first. */
     void setImages(std::string strDown, std::string strUp, std::string strDim);
 
+    /** UTF-8, shown as it is: "@key" is looked up in layouts only. */
     void setTitle(std::string strTitle);
+
+    /** The title as it is shown, not its key. */
     std::string getTitle();
 
     /** Style of the title in the normal state, not owned. */
     void setFont(Resource::Font* pFont);
 
+    /** Whether a press and the first tick of a hold play the touch sound; they do at first. */
     void setSoundMode(bool bSoundMode);
+
+    /** Whether a hold ticks, from the next press on; it doesn't at first. */
     void setLongPress(bool bLongPress);
 
     /** Elides the title from now on, whatever the argument: there is no way back. */
@@ -85,8 +95,19 @@ protected:
     /** What a press does last: the wait for a long press begins, where it is on. */
     void hold();
 
+    /**
+     * One tick of a hold: reports it, with the sound for the first one, and lets the next tick come
+     * while the button is pressed. In dim mode the ticks end.
+     */
     void onLongPressed();
+
+    /** Starts the push, m_nPressOffset right and down in 150 ms; nothing without "elastic_push". */
     void animationPressed();
+
+    /**
+     * Starts the way back to the rest position, 150 ms from where the button is now; nothing
+     * without "elastic_push".
+     */
     void animationReleased();
 
     /** The down picture, loaded now when it isn't yet; null where there is none. */
@@ -101,31 +122,31 @@ protected:
      */
     void paintCheckable(bool bChecked, Common::SysLogger& logger);
 
-    std::string m_strDownImage;
-    std::string m_strUpImage;
-    std::string m_strDimImage;
-    QPixmap* m_pDownImage = nullptr; ///< not owned; may be null until the first press
-    QPixmap* m_pUpImage = nullptr;   ///< not owned
-    QPixmap* m_pCurImage = nullptr;  ///< not owned; what is painted
-    Resource::Font* m_pFont = nullptr;
-    Resource::Font* m_pDimFont = nullptr;
-    Resource::Font* m_pPressFont = nullptr;
-    int m_nAlign = Qt::AlignCenter;
+    std::string m_strDownImage;             ///< file name
+    std::string m_strUpImage;               ///< file name
+    std::string m_strDimImage;              ///< file name
+    QPixmap* m_pDownImage = nullptr;        ///< not owned; may be null until the first press
+    QPixmap* m_pUpImage = nullptr;          ///< not owned
+    QPixmap* m_pCurImage = nullptr;         ///< not owned; what is painted
+    Resource::Font* m_pFont = nullptr;      ///< not owned; null paints no title
+    Resource::Font* m_pDimFont = nullptr;   ///< not owned; null paints as if not dim
+    Resource::Font* m_pPressFont = nullptr; ///< not owned; null paints in m_pFont
+    int m_nAlign = Qt::AlignCenter;         ///< Qt alignment flags of the title
     bool m_bDimMode = false;
     bool m_bPressed = false;
     bool m_bSoundMode = true;
     QPropertyAnimation m_animation;
-    std::string m_strTitle;
-    int m_nPressOffset = 0; ///< pixels that the button moves on a press, 0 to 4
-    int m_nOrgX = 0;
-    int m_nOrgY = 0;
-    QRect m_imageRect; ///< in widget coordinates; unset means the whole widget
-    QRect m_textRect;  ///< in widget coordinates; unset means the whole widget
-    std::string m_strAnimation;
-    Timer* m_pTimer = nullptr; ///< owned
-    bool m_bLongPressed = false;
-    int m_nLongPressCount = 0; ///< ticks in this press
-    bool m_bLongPress = false;
+    std::string m_strTitle;      ///< UTF-8
+    int m_nPressOffset = 0;      ///< pixels that the button moves on a press, 0 to 4
+    int m_nOrgX = 0;             ///< rest position in the parent, in pixels
+    int m_nOrgY = 0;             ///< rest position in the parent, in pixels
+    QRect m_imageRect;           ///< in widget coordinates; unset means the whole widget
+    QRect m_textRect;            ///< in widget coordinates; unset means the whole widget
+    std::string m_strAnimation;  ///< "elastic_push"; any other text is no animation
+    Timer* m_pTimer = nullptr;   ///< owned
+    bool m_bLongPressed = false; ///< this hold has ticked
+    int m_nLongPressCount = 0;   ///< ticks in this press
+    bool m_bLongPress = false;   ///< whether a hold ticks
     bool m_bElided = false;
     Common::SysLogger m_logger{"QTPANFx", "ZELImageButton"};
 

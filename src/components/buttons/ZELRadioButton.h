@@ -18,6 +18,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELRadioButton : public ZELImageButton
 {
 public:
+    /** As that of ZELImageButton; the button is unchecked. */
     ZELRadioButton(QWidget* pParent, std::string strID, std::string strType,
                    TAMFx::Common::Xml::Node* pLayout);
     ~ZELRadioButton() override;

@@ -27,6 +27,10 @@ class ZELRadioButton;
 class QTPANFX_EXPORT ZELRadioGroup : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Builds and shows the components of the element, then takes its place and addButton(). A null
+     * element is told twice and leaves an empty group.
+     */
     ZELRadioGroup(QWidget* pParent, std::string strID, std::string strType,
                   TAMFx::Common::Xml::Node* pLayout);
     ~ZELRadioGroup() override;

@@ -14,6 +14,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELBubbleDialog : public ZELImageBox
 {
 public:
+    /** As that of ZELImageBox, but a fault of the element is told twice. */
     ZELBubbleDialog(QWidget* pParent, std::string strID, std::string strType,
                     TAMFx::Common::Xml::Node* pLayout);
     ~ZELBubbleDialog() override;

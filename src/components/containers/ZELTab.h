@@ -48,9 +48,14 @@ public:
     /** Tab of the button with that id; -1, with an error line, when there is none. */
     int findPage(std::string strButtonId);
 
-    /** Shows or hides one tab whatever the others do; getPage() stays. */
+    /// @{
+    /**
+     * Hides or shows one tab, with its button unchecked or checked, whatever the others do;
+     * getPage() stays. A number without a tab is told and changes nothing.
+     */
     void hideTab(int nPage);
     void showTab(int nPage);
+    /// @}
 
     /**
      * Takes up the pairs of button and page among the sub-components and hides the pages.
@@ -70,13 +75,18 @@ protected:
     bool event(QEvent* pEvent) override;
 
     Common::SysLogger m_logger{"QTPANFx", "ZELTab"};
-    TAMFx::Data::Collection::ArrayList m_arrPageId;
-    TAMFx::Data::Collection::ArrayList m_arrButtonId;
-    QPixmap* m_pBGPixmap = nullptr; ///< not owned
+    TAMFx::Data::Collection::ArrayList m_arrPageId;   ///< id of the page of each tab
+    TAMFx::Data::Collection::ArrayList m_arrButtonId; ///< id of the button of each tab
+    QPixmap* m_pBGPixmap = nullptr;                   ///< not owned
+
+    /// @{
+    /** Place of the background in the widget, in pixels. */
     int m_nBGX = 0;
     int m_nBGY = 0;
     int m_nBGWidth = 1;
     int m_nBGHeight = 1;
+    /// @}
+
     int m_nCurPage = 0;
 
 private:

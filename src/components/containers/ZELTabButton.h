@@ -17,6 +17,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELTabButton : public ZELRadioButton
 {
 public:
+    /** As that of ZELRadioButton. */
     ZELTabButton(QWidget* pParent, std::string strID, std::string strType,
                  TAMFx::Common::Xml::Node* pLayout);
     ~ZELTabButton() override;

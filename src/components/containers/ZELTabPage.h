@@ -16,6 +16,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELTabPage : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Builds the components of the element, then takes its place. The page is not shown. A null
+     * element is told twice and leaves an empty page.
+     */
     ZELTabPage(QWidget* pParent, std::string strID, std::string strType,
                TAMFx::Common::Xml::Node* pLayout);
     ~ZELTabPage() override;
@@ -25,6 +29,7 @@ public:
     void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
     QWidget* getQWidget() override;
 
+    /** Keeps the state, which nothing shows. */
     void setCheck(int nCheck);
 
     /** @throw std::out_of_range when there is no component at @p nIndex */

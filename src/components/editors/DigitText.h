@@ -25,11 +25,13 @@ void typeEach(QWidget& field, const char* pszText, Operation type)
     }
 }
 
+/** Whether it is one of the ten ASCII digits, whatever the locale. */
 inline bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
 }
 
+/** The value of an ASCII digit; any other character is not checked. */
 inline int digitOf(char c)
 {
     return c - '0';
@@ -41,16 +43,19 @@ inline int numberIn(const QString& strText)
     return Common::toInt(strText.toLatin1().constData());
 }
 
+/** The number in decimal, without leading zeros. */
 inline QString plainNumber(int nValue)
 {
     return QString::asprintf("%d", nValue);
 }
 
+/** The number in decimal, with zeros in front up to two characters; more are not cut. */
 inline QString twoDigits(int nValue)
 {
     return QString::asprintf("%02d", nValue);
 }
 
+/** The same up to four characters. */
 inline QString fourDigits(int nValue)
 {
     return QString::asprintf("%04d", nValue);

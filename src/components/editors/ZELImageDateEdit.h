@@ -22,6 +22,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELImageDateEdit : public ZELImageEdit
 {
 public:
+    /**
+     * An empty field, not shown, in the order month, day, year. The element is read twice, so a
+     * null one is told twice.
+     */
     ZELImageDateEdit(QWidget* pParent, std::string strID, std::string strType,
                      TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageDateEdit() override;
@@ -67,21 +71,34 @@ protected:
 
     /** Types one character. @return whether it is a digit, taken or not */
     bool processText(char c);
+
+    /**
+     * Takes eight digits in the field's order, and doesn't repaint.
+     * @return false for fewer characters, which change nothing
+     */
     bool processText(std::string strText);
+
+    /** What setText() with three numbers does but for the repaint. @return true */
     bool processText(unsigned int nYear, unsigned int nMonth, unsigned int nDay);
 
+    /// @{
+    /**
+     * Type one digit into a field of the order that the name says: it is taken, corrected or
+     * dropped. Don't repaint.
+     */
     void MDYProcess(char c);
     void DMYProcess(char c);
     void YMDProcess(char c);
+    /// @}
 
-    QString m_strFixedYear;
-    QString m_strYear = m_strFixedYear;
-    QString m_strMonth;
-    QString m_strDay;
-    unsigned int m_nDateOrder = 0;
-    int m_nYearWidth = 60; ///< pixels
-    int m_nMonthWidth = 40;
-    int m_nDayWidth = 40;
+    QString m_strFixedYear;             ///< digits of the year that stay
+    QString m_strYear = m_strFixedYear; ///< as typed so far
+    QString m_strMonth;                 ///< up to 2 digits
+    QString m_strDay;                   ///< up to 2 digits
+    unsigned int m_nDateOrder = 0;      ///< 0, 1 or 2, as setDateOrder() takes it
+    int m_nYearWidth = 60;              ///< pixels
+    int m_nMonthWidth = 40;             ///< pixels
+    int m_nDayWidth = 40;               ///< pixels
     Common::SysLogger m_logger{"QTPANFx", "ZELImageDateEdit"};
 
 private:

@@ -33,6 +33,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELImageEdit : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * A child of @p pParent, not shown. A null element writes an error line and leaves the field
+     * with neither frame nor style.
+     */
     ZELImageEdit(QWidget* pParent, std::string strID, std::string strType,
                  TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageEdit() override;
@@ -50,10 +54,14 @@ public:
 
     /** Sets the value, cut to the longest allowed, and repaints. Null empties it. */
     virtual void setText(const char* pszText);
+
+    /** The same for a std::string, zero bytes included. */
     virtual void setText(std::string strText);
 
     /** Appends to the value, cuts it to the longest allowed, and repaints; null does nothing. */
     virtual void addText(const char* pszText);
+
+    /** The same for a std::string, zero bytes included. */
     virtual void addText(std::string strText);
 
     /** Takes the last byte away and repaints; nothing on an empty value. */
@@ -74,9 +82,13 @@ public:
     /** The text area, in pixels of the widget. Doesn't repaint. */
     void setPadding(int x, int y, int width, int height);
 
-    /** The text shown while the value is empty, UTF-8; null empties it. Doesn't repaint. */
+    /** The text shown while the value is empty, UTF-8. Doesn't repaint. */
     void setPlaceholderText(std::string strText);
+
+    /** The same; null empties it. */
     void setPlaceholderText(const char* pszText);
+
+    /** UTF-8; "" when there is none. */
     std::string placeholderText();
 
     /**
@@ -88,12 +100,16 @@ public:
     void setElidedText(int nMode);
 
     /**
-     * Pictures of the three states by file name; what is missing becomes null.
-     * @param bShow makes them current at once
+     * The pieces of the field without the focus, by file name; what is missing becomes null.
+     * @param bShow makes them current at once, and repaints
      * @return whether all three exist
      */
     bool setUpImage(std::string strStart, std::string strMid, std::string strEnd, bool bShow);
+
+    /** The pieces of the field with the focus. @return whether all three exist */
     bool setDownImage(std::string strStart, std::string strMid, std::string strEnd);
+
+    /** The pieces of the dimmed field. @return whether all three exist */
     bool setDimImage(std::string strStart, std::string strMid, std::string strEnd);
 
     /** Makes three pieces current, not owned, and repaints. @return whether all are set */
@@ -128,13 +144,16 @@ protected:
     void tellNoFont(Common::SysLogger& logger, const char* pszOperation);
 
     bool m_bDimMode = false;
-    int m_nAlign = Qt::AlignLeft | Qt::AlignVCenter;
-    int m_nEchoMode = 0;
-    unsigned int m_nMaxLength = 1024; ///< bytes
-    std::string m_strPlaceholder;     ///< UTF-8
-    Resource::Font* m_pFont = nullptr;
-    Resource::Font* m_pDimFont = nullptr;
-    QRect m_paddingRect{0, 0, -1, -1}; ///< text area in the widget
+    int m_nAlign = Qt::AlignLeft | Qt::AlignVCenter; ///< Qt alignment flags of the text
+    int m_nEchoMode = 0;                             ///< 1 shows an asterisk for each character
+    unsigned int m_nMaxLength = 1024;                ///< bytes
+    std::string m_strPlaceholder;                    ///< UTF-8
+    Resource::Font* m_pFont = nullptr;               ///< not owned; null paints no text
+    Resource::Font* m_pDimFont = nullptr;            ///< not owned; used by the number field only
+    QRect m_paddingRect{0, 0, -1, -1};               ///< text area in the widget
+
+    /// @{
+    /** A piece of the frame, not owned; null where there is none. The current three are painted. */
     QPixmap* m_pCurStart = nullptr;
     QPixmap* m_pCurMid = nullptr;
     QPixmap* m_pCurEnd = nullptr;
@@ -147,6 +166,8 @@ protected:
     QPixmap* m_pDimStart = nullptr;
     QPixmap* m_pDimMid = nullptr;
     QPixmap* m_pDimEnd = nullptr;
+    /// @}
+
     std::string m_strText; ///< UTF-8
     Common::SysLogger m_logger{"QTPANFx", "ZELImageEdit"};
     int m_nElideMode = Elision::none; ///< Qt elide mode now in force

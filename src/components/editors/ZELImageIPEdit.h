@@ -15,6 +15,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELImageIPEdit : public ZELImageEdit
 {
 public:
+    /** An empty field, not shown. The element is read twice, so a null one is told twice. */
     ZELImageIPEdit(QWidget* pParent, std::string strID, std::string strType,
                    TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageIPEdit() override;

@@ -20,6 +20,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELImageNumberEdit : public ZELImageEdit
 {
 public:
+    /**
+     * An empty field for integers, not shown. The element is read twice, so a null one is told
+     * twice.
+     */
     ZELImageNumberEdit(QWidget* pParent, std::string strID, std::string strType,
                        TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageNumberEdit() override;
@@ -53,6 +57,8 @@ public:
 
     /** 0 is for integers. The present number is not formatted anew. */
     void setDecimalplace(int nDecimalPlace);
+
+    /** Number of decimal places; 0 at first. */
     int getDecimalplace();
 
 protected:
@@ -61,19 +67,22 @@ protected:
     /** Raises the number to the minimum and formats it. */
     void focusOutEvent(QFocusEvent* pEvent) override;
 
-    /** Type one character. @return whether the field is to be repainted */
+    /** Types one character into an integer. @return whether the field is to be repainted */
     bool processIntText(char c);
+
+    /** The same for a number with decimal places. */
     bool processDoubleText(char c);
 
     /** Appends a digit and holds the number in the range. */
     void checkRange(char c);
 
+    /** What setText() does but for the repaint. @return false for a number outside the range */
     bool processText(std::string strText);
 
-    std::string m_strNumber;
+    std::string m_strNumber; ///< as typed so far, ASCII
     int m_nDecimalPlace = 0;
-    double m_dMax = 0.0;
-    double m_dMin = 0.0;
+    double m_dMax = 0.0;   ///< 0 until setRange(); an integer stops at it all the same
+    double m_dMin = 0.0;   ///< 0 until setRange(); holds all the same when the focus goes
     bool m_bRange = false; ///< whether setRange() has been called
     Common::SysLogger m_logger{"QTPANFx", "ZELImageNumberEdit"};
 

@@ -18,6 +18,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELImageTimeEdit : public ZELImageEdit
 {
 public:
+    /**
+     * An empty field, not shown, set to AM. The element is read twice, so a null one is told twice;
+     * one without "style" is told too.
+     */
     ZELImageTimeEdit(QWidget* pParent, std::string strID, std::string strType,
                      TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageTimeEdit() override;
@@ -55,6 +59,7 @@ public:
     /** AM becomes PM, PM becomes AM. */
     void changeAMPM();
 
+    /** Whether the mark is AM, as it is in an empty field. */
     bool isAM();
 
 protected:
@@ -62,13 +67,20 @@ protected:
 
     /** Types one character. @return whether the field is to be repainted */
     bool processText(char c);
+
+    /**
+     * Takes "HH:MM" of 24 hours, and doesn't repaint.
+     * @return false for fewer than 5 characters, which change nothing
+     */
     bool processText(std::string strText);
+
+    /** What setText() with numbers does. @return true */
     bool processText(int nHour, int nMinute, bool bAM);
 
-    QString m_strHour;
-    QString m_strMinute;
-    QString m_strAmPm = QStringLiteral("AM");
-    int m_nColumnWidth = 0; ///< pixels
+    QString m_strHour;                        ///< up to 2 digits of 12 hours
+    QString m_strMinute;                      ///< up to 2 digits
+    QString m_strAmPm = QStringLiteral("AM"); ///< "AM" or "PM"
+    int m_nColumnWidth = 0;                   ///< pixels
     Common::SysLogger m_logger{"QTPANFx", "ZELImageTimeEdit"};
 
 private:

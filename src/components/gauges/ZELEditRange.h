@@ -22,6 +22,10 @@ class ZELImageEdit;
 class QTPANFX_EXPORT ZELEditRange : public ZELRange
 {
 public:
+    /**
+     * Builds the components of the element, reads it and goes to step 0. A null element is told
+     * twice and leaves a range with neither buttons nor texts.
+     */
     ZELEditRange(QWidget* pParent, std::string strID, std::string strType,
                  TAMFx::Common::Xml::Node* pLayout);
     ~ZELEditRange() override;

@@ -26,6 +26,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELImageProgressBar : public ZELProgressBar
 {
 public:
+    /**
+     * Reads the element; the number is 0. A null element writes an error line and leaves a bar
+     * without pictures.
+     */
     ZELImageProgressBar(QWidget* pParent, std::string strID, std::string strType,
                         TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageProgressBar() override;
@@ -42,13 +46,13 @@ public:
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
 
-    QPixmap* m_pBGPixmap = nullptr;
-    QPixmap* m_pStartPixmap = nullptr;
-    QPixmap* m_pMidPixmap = nullptr;
-    QPixmap* m_pEndPixmap = nullptr;
-    int m_nOffsetX = 0; ///< inset of the fill at the left and at the right
-    int m_nOffsetY = 0;
-    Resource::Font* m_pFont = nullptr; ///< null for no text
+    QPixmap* m_pBGPixmap = nullptr;    ///< not owned; null paints nothing at all
+    QPixmap* m_pStartPixmap = nullptr; ///< not owned; left cap
+    QPixmap* m_pMidPixmap = nullptr;   ///< not owned; stretched between the caps
+    QPixmap* m_pEndPixmap = nullptr;   ///< not owned; right cap
+    int m_nOffsetX = 0; ///< inset of the fill at the left and at the right, in pixels
+    int m_nOffsetY = 0; ///< top of the fill, in pixels
+    Resource::Font* m_pFont = nullptr; ///< not owned; null for no text
     Common::SysLogger m_logger{"QTPANFx", "ZELImageProgressBar"};
 
 private:

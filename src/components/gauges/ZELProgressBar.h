@@ -12,6 +12,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELProgressBar : public ZELComponent, public QProgressBar
 {
 public:
+    /** The value is 0. The element is left to the derived class. */
     ZELProgressBar(QWidget* pParent, std::string strID, std::string strType,
                    TAMFx::Common::Xml::Node* pLayout);
     ~ZELProgressBar() override;

@@ -19,6 +19,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELProgressRange : public ZELRange
 {
 public:
+    /**
+     * Builds the components of the element, reads it and goes to step 0. A null element is told
+     * twice and leaves a range with neither buttons nor pictures.
+     */
     ZELProgressRange(QWidget* pParent, std::string strID, std::string strType,
                      TAMFx::Common::Xml::Node* pLayout);
     ~ZELProgressRange() override;
@@ -38,15 +42,20 @@ protected:
     QPixmap* m_pBGPixmap = nullptr;    ///< not owned
     QPixmap* m_pThumbPixmap = nullptr; ///< not owned
     int m_nOffset = 0;                 ///< pixels between thumbs
-    int m_nThumbWidth = 1;
-    int m_nThumbHeight = 1;
-    int m_nThumbX = 0;
-    int m_nThumbY = 0;
+    int m_nThumbWidth = 1;             ///< pixels
+    int m_nThumbHeight = 1;            ///< pixels
+    int m_nThumbX = 0;                 ///< left side of the first thumb
+    int m_nThumbY = 0;                 ///< its top in a row, its bottom in a column
+
+    /// @{
+    /** Place of the background in the widget, in pixels. */
     int m_nBGWidth = 1;
     int m_nBGHeight = 1;
     int m_nBGX = 0;
     int m_nBGY = 0;
-    char m_chType = 'V';
+    /// @}
+
+    char m_chType = 'V'; ///< 'V' for a column, any other for a row
 
 private:
     void readValues(TAMFx::Common::Xml::Node* pLayout);

@@ -26,6 +26,7 @@ class ZELImageButton;
 class QTPANFX_EXPORT ZELRange : public ZELComponent, public QWidget
 {
 public:
+    /** A child of @p pParent, not shown, at step 0. The element is left to the derived class. */
     ZELRange(QWidget* pParent, std::string strID, std::string strType,
              TAMFx::Common::Xml::Node* pLayout);
     ~ZELRange() override;
@@ -48,12 +49,13 @@ protected:
     void paintEvent(QPaintEvent* pEvent) override = 0;
 
 public:
-    /** Whether the buttons play the touch sound. */
+    /** Whether the buttons play the touch sound; nothing but an error line without both of them. */
     void setSoundMode(bool bSoundMode);
 
     /** Stepping past a bound goes on at the other one. */
     void setWrap(bool bWrap);
 
+    /** The step after it was held at the bounds; 0 at first. */
     int getStep() const;
 
 protected:
@@ -61,14 +63,15 @@ protected:
     ZELImageButton* m_pDownBtn = nullptr; ///< owned; takes 1 away
     /** Owned, wherever it lies; nothing here sets it. One that is gone already is left alone. */
     ZELComponent* m_pExtra = nullptr;
-    int m_nStep = 0;
-    int m_nMax = 0; ///< as each class defines it
-    bool m_bWrap = false;
+    int m_nStep = 0;      ///< counted from 0
+    int m_nMax = 0;       ///< as each class defines it
+    bool m_bWrap = false; ///< whether a step past a bound goes on at the other
     Common::SysLogger m_logger{"QTPANFx", "ZELRange"};
 
     /** Places a button that the layout describes, and gives it its pictures. */
     static void dressButton(ZELImageButton& button, TAMFx::Common::Xml::Node* pNode);
 
+    /** Sets the dim mode of both buttons; one that there isn't is left out. */
     void dimButtons(bool bUp, bool bDown);
 
     /** Goes to a step from 0 to @p nTop as setStep() does; the buttons stay where it wraps. */

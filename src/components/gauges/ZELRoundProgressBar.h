@@ -18,6 +18,10 @@ class ZELPieImageBox;
 class QTPANFX_EXPORT ZELRoundProgressBar : public ZELProgressBar
 {
 public:
+    /**
+     * Builds the components of the element, reads it and goes to 0 percent. A null element is told
+     * twice and leaves a bar without pictures.
+     */
     ZELRoundProgressBar(QWidget* pParent, std::string strID, std::string strType,
                         TAMFx::Common::Xml::Node* pLayout);
     ~ZELRoundProgressBar() override;

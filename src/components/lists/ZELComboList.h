@@ -38,6 +38,10 @@ class ZELListScroll;
 class QTPANFX_EXPORT ZELComboList : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Reads the element, builds its rows and scroll, and hides itself and all of them; the list is
+     * empty. A null element is told twice and leaves a list without rows.
+     */
     ZELComboList(QWidget* pParent, std::string strID, std::string strType,
                  TAMFx::Common::Xml::Node* pLayout);
     ~ZELComboList() override;
@@ -47,7 +51,10 @@ public:
     void setLayout(TAMFx::Common::Xml::Node* pLayout) override;
     QWidget* getQWidget() override;
 
+    /** The number last given to setTotalPage(), taken as it was; 1 at first. */
     int getTotalPage();
+
+    /** The page last given to setNowPage() or reached by a touch; 1 at first. */
     int getNowPage();
 
     /**
@@ -71,6 +78,7 @@ public:
     /** Null when none is tied, or when it is gone. */
     ZELLineEdit* getLineEdit();
 
+    /** Number of entries, whether they have a row or not. */
     int getItemCount();
 
     /** @throw std::out_of_range when there is no such entry */
@@ -89,6 +97,7 @@ public:
     /** Removes by rank; a rank that there isn't changes nothing. */
     void removeItem(int nRank);
 
+    /** Removes all entries and draws the list. */
     void clearItem();
 
     /** Takes up the rows anew. */
@@ -102,24 +111,24 @@ protected:
     bool event(QEvent* pEvent) override;
 
     std::deque<std::string> m_dequeItem; ///< the newest at the back
-    int m_nX = 0;
+    int m_nX = 0;                        ///< place of all rows together in the parent, in pixels
     int m_nY = 0;
     int m_nWidth = 1;
-    int m_nHeight = 1; ///< of all rows together
-    int m_nListCount = 0;
-    std::string m_strMidImage;
-    std::string m_strEndImage; ///< of the row farthest from the field
-    std::string m_strPressImage;
-    bool m_bUp = false;
-    bool m_bSort = false;
-    int m_nItemIndex = 0;
-    bool m_bImage = false; ///< whether all three pictures are given
+    int m_nHeight = 1;           ///< of all rows together
+    int m_nListCount = 0;        ///< number of rows
+    std::string m_strMidImage;   ///< file name
+    std::string m_strEndImage;   ///< file name, of the row farthest from the field
+    std::string m_strPressImage; ///< file name
+    bool m_bUp = false;          ///< opens upward
+    bool m_bSort = false;        ///< a repeated or chosen text becomes the newest
+    int m_nItemIndex = 0;        ///< column of the button that shows the text, from 0
+    bool m_bImage = false;       ///< whether all three pictures are given
     int m_nTotalPage = 1;
-    int m_nNowPage = 1;
-    ZELImageEdit* m_pEdit = nullptr;
-    ZELLineEdit* m_pLineEdit = nullptr;
-    ZELListScroll* m_pListScroll = nullptr;
-    TAMFx::Data::Collection::ArrayList m_arrItemId;
+    int m_nNowPage = 1;                 ///< counted from 1
+    ZELImageEdit* m_pEdit = nullptr;    ///< not owned; dangles once the edit is gone: ask getEdit()
+    ZELLineEdit* m_pLineEdit = nullptr; ///< not owned; as m_pEdit: ask getLineEdit()
+    ZELListScroll* m_pListScroll = nullptr;         ///< a Qt child; null without a scroll
+    TAMFx::Data::Collection::ArrayList m_arrItemId; ///< ids of the rows
     Common::SysLogger m_logger{"QTPANFx", "ZELComboList"};
 
 private:

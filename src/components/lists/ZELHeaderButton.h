@@ -21,6 +21,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELHeaderButton : public ZELRadioButton
 {
 public:
+    /**
+     * Reads the element as an image button and then for the icon, so a null one is told twice. Not
+     * selected, with the direction false.
+     */
     ZELHeaderButton(QWidget* pParent, std::string strID, std::string strType,
                     TAMFx::Common::Xml::Node* pLayout);
     ~ZELHeaderButton() override;
@@ -39,17 +43,20 @@ public:
 
 protected:
     Common::SysLogger m_logger{"QTPANFx", "ZELHeaderButton"};
-    QPixmap* m_pUpIcon = nullptr;   ///< shown while the direction is true
-    QPixmap* m_pDownIcon = nullptr; ///< shown while it is false
+    QPixmap* m_pUpIcon = nullptr;   ///< not owned; shown while the direction is true
+    QPixmap* m_pDownIcon = nullptr; ///< not owned; shown while it is false
 
 public:
-    bool m_bDirection = false;
+    bool m_bDirection = false; ///< turned round by each press while it is selected
 
 protected:
+    /// @{
+    /** Place of the icon in the widget, in pixels. */
     int m_nIconX = 0;
     int m_nIconY = 0;
     int m_nIconWidth = 1;
     int m_nIconHeight = 1;
+    /// @}
 
 private:
     void readIcon(TAMFx::Common::Xml::Node* pIcon);

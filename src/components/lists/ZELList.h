@@ -36,6 +36,10 @@ class ZELListScroll;
 class QTPANFX_EXPORT ZELList : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Builds and shows the components of the element, then takes its place, background and rows. A
+     * null element is told twice and leaves a list without rows.
+     */
     ZELList(QWidget* pParent, std::string strID, std::string strType,
             TAMFx::Common::Xml::Node* pLayout);
     ~ZELList() override;
@@ -48,8 +52,10 @@ public:
     /** The scroll's page, counted from 1; -1 without a scroll. */
     int getNowPage();
 
-    /** Nothing without a scroll; see ZELListScroll. */
+    /** As ZELListScroll::setListNowPage(); nothing without a scroll. */
     void setNowPage(int nPage);
+
+    /** As ZELListScroll::setListTotalPage(); nothing without a scroll. */
     void setTotalPage(int nTotal);
 
     /** A row; null for one that there isn't. */
@@ -78,10 +84,15 @@ protected:
     ZELListHeader* m_pListHeader = nullptr;         ///< not owned
     TAMFx::Data::Collection::ArrayList m_arrItemId; ///< ids of the rows
     QPixmap* m_pBGPixmap = nullptr;                 ///< not owned
+
+    /// @{
+    /** Place of the background in the widget, in pixels. */
     int m_nBGX = 0;
     int m_nBGY = 0;
     int m_nBGWidth = 0;
     int m_nBGHeight = 0;
+    /// @}
+
     Common::SysLogger m_logger{"QTPANFx", "ZELList"};
 
     /** Posts a page event on with this list as the sender. */

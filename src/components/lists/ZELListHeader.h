@@ -19,6 +19,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELListHeader : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Builds and shows the cells of the element, then takes its place. A null element is told twice
+     * and leaves a header without cells.
+     */
     ZELListHeader(QWidget* pParent, std::string strID, std::string strType,
                   TAMFx::Common::Xml::Node* pLayout);
     ~ZELListHeader() override;

@@ -20,6 +20,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELListItem : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Builds and shows the cells of the element, then takes its place. A null element is told twice
+     * and leaves a row without cells.
+     */
     ZELListItem(QWidget* pParent, std::string strID, std::string strType,
                 TAMFx::Common::Xml::Node* pLayout);
     ~ZELListItem() override;

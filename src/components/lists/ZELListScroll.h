@@ -30,6 +30,10 @@ class ZELLabel;
 class QTPANFX_EXPORT ZELListScroll : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Reads the element and makes label and buttons, each of which tells that it gets no element of
+     * its own. Page 1 of 1. A null element is told twice and leaves a scroll without them.
+     */
     ZELListScroll(QWidget* pParent, std::string strID, std::string strType,
                   TAMFx::Common::Xml::Node* pLayout);
     ~ZELListScroll() override;
@@ -60,15 +64,15 @@ protected:
     ZELLabel* m_pPageLabel = nullptr;     ///< a Qt child
 
 public:
-    int m_nTotalPage = 1;
-    int m_nNowPage = 1; ///< counted from 1
+    int m_nTotalPage = 1; ///< as it was set, not checked
+    int m_nNowPage = 1;   ///< counted from 1
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
     bool event(QEvent* pEvent) override;
 
-    int m_nType = 0; ///< 1 for three lines of text
-    std::string m_strPageNumbering;
+    int m_nType = 0;                ///< 1 for three lines of text
+    std::string m_strPageNumbering; ///< the text of the label when it was last asked for
     Common::SysLogger m_logger{"QTPANFx", "ZELListScroll"};
 
 private:

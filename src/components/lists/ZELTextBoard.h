@@ -32,6 +32,10 @@ class ZELListScroll;
 class QTPANFX_EXPORT ZELTextBoard : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Builds and shows the scroll and reads the element; there is no text. A null element is told
+     * twice and leaves a board without style and scroll.
+     */
     ZELTextBoard(QWidget* pParent, std::string strID, std::string strType,
                  TAMFx::Common::Xml::Node* pLayout);
     ~ZELTextBoard() override;
@@ -43,6 +47,8 @@ public:
 
     /** Breaks a text into lines and pages and goes to page 1. UTF-8. Doesn't repaint. */
     void setText(std::string strText);
+
+    /** The text as it was set, not as it is broken into lines. */
     std::string getText();
 
     /** Kept; the text is drawn at the left whatever it is. */
@@ -57,20 +63,20 @@ protected:
     void paintEvent(QPaintEvent* pEvent) override;
     bool event(QEvent* pEvent) override;
 
-    int m_nNowPage = 1;
+    int m_nNowPage = 1; ///< counted from 1
     int m_nTotalPage = 1;
-    int m_nAlign = Qt::AlignTop | Qt::AlignLeft;
-    int m_nIndent = 0;
-    int m_nTitleLines = 0; ///< lines at the top of page 1 that stay free for the title
-    int m_nPageLines = 1;
+    int m_nAlign = Qt::AlignTop | Qt::AlignLeft; ///< Qt alignment flags; read by nothing
+    int m_nIndent = 0;                           ///< pixels
+    int m_nTitleLines = 0;  ///< lines at the top of page 1 that stay free for the title
+    int m_nPageLines = 1;   ///< lines that the board has room for
     int m_nLineHeight = 0;  ///< pixels
     std::string m_strTitle; ///< set by nothing
-    std::string m_strText;
+    std::string m_strText;  ///< UTF-8
     QStringList m_lstLines; ///< "||" in front marks the first line of an indented paragraph
-    ZELListScroll* m_pScroll = nullptr;
-    Resource::Font* m_pTitleFont = nullptr;
-    Resource::Font* m_pFont = nullptr;
-    QRect m_rcBoard{0, 0, 0, 0};
+    ZELListScroll* m_pScroll = nullptr;     ///< a Qt child; null without a scroll
+    Resource::Font* m_pTitleFont = nullptr; ///< not owned
+    Resource::Font* m_pFont = nullptr;      ///< not owned; null paints nothing
+    QRect m_rcBoard{0, 0, 0, 0};            ///< the text area in the widget
     Common::SysLogger m_logger{"QTPANFx", "ZELTextBoard"};
 
 private:

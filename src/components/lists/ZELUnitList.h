@@ -21,6 +21,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELUnitList : public ZELList
 {
 public:
+    /** As that of ZELList. */
     ZELUnitList(QWidget* pParent, std::string strID, std::string strType,
                 TAMFx::Common::Xml::Node* pLayout);
     ~ZELUnitList() override;

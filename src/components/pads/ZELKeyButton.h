@@ -22,6 +22,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELKeyButton : public ZELImageButton
 {
 public:
+    /**
+     * A child of @p pParent, not shown. A null element writes an error line and leaves a key
+     * without code, face and pictures.
+     */
     ZELKeyButton(QWidget* pParent, std::string strID, std::string strType,
                  TAMFx::Common::Xml::Node* pLayout);
     ~ZELKeyButton() override;
@@ -65,14 +69,14 @@ protected:
     void mousePressEvent(QMouseEvent* pEvent) override;
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
 
-    int m_nCode = -1;
-    int m_nCode2 = -1;
-    std::string m_strLang2Title; ///< UTF-8
-    int m_nLang2Code = -1;       ///< -1 also keeps the key out of the second language
-    int m_nLang2Index = -1;
-    std::string m_strLang2Title2;
-    int m_nLang2Code2 = -1;
-    int m_nLang2Index2 = -1;
+    int m_nCode = -1;             ///< plain; UTF-16, -1 for none
+    int m_nCode2 = -1;            ///< shifted; UTF-16, -1 for none
+    std::string m_strLang2Title;  ///< UTF-8
+    int m_nLang2Code = -1;        ///< -1 also keeps the key out of the second language
+    int m_nLang2Index = -1;       ///< place in the tables of the Hangul composer; -1 for none
+    std::string m_strLang2Title2; ///< UTF-8, shifted
+    int m_nLang2Code2 = -1;       ///< shifted; UTF-16, -1 for none
+    int m_nLang2Index2 = -1;      ///< shifted; -1 for none
     Common::SysLogger m_logger{"QTPANFx", "ZELKeyButton"};
 
 private:

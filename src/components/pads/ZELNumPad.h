@@ -32,6 +32,10 @@ class ZELImageEdit;
 class QTPANFX_EXPORT ZELNumPad : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * Reads the element and builds its keys; the pad shows key set 0, embedded, with no edit
+     * attached. A null element is told twice and leaves a pad without keys.
+     */
     ZELNumPad(QWidget* pParent, std::string strID, std::string strType,
               TAMFx::Common::Xml::Node* pLayout);
     ~ZELNumPad() override;
@@ -76,8 +80,10 @@ public:
      */
     void onNumBtnPress(ZELEvent* pEvent);
 
-    /** What a click on backspace and its ticks do; the argument is not used. */
+    /** What a click on backspace and its first ticks do; the argument is not used. */
     void onBspacePress(ZELEvent* pEvent);
+
+    /** What its later ticks do: empties the edit; the report is that of one step back. */
     void onBspacePressLong(ZELEvent* pEvent);
 
     /** What a click on another key does, by the event's id. Null does nothing and is told. */
@@ -90,10 +96,13 @@ protected:
     void paintEvent(QPaintEvent* pEvent) override;
     bool event(QEvent* pEvent) override;
 
-    static constexpr int digitKeys = 10;
+    static constexpr int digitKeys = 10; ///< "num0" to "num9"
 
-    QPixmap* m_pBasePixmap = nullptr; ///< background of the popup
-    ZELImageEdit* m_pEdit = nullptr;
+    QPixmap* m_pBasePixmap = nullptr; ///< not owned; background of the popup
+    ZELImageEdit* m_pEdit = nullptr;  ///< not owned; dangles once the edit is gone: ask getEdit()
+
+    /// @{
+    /** A key, which is a Qt child; null for one that the layout hasn't. */
     ZELImageButton* m_pNumBtn[digitKeys] = {};
     ZELImageButton* m_pNum00Btn = nullptr;
     ZELImageButton* m_pBackspaceBtn = nullptr;
@@ -102,13 +111,15 @@ protected:
     ZELImageButton* m_pAmpmBtn = nullptr;
     ZELImageButton* m_pEmptyBtn = nullptr;
     ZELImageButton* m_pCloseBtn = nullptr;
-    int m_nBaseX = 0;
+    /// @}
+
+    int m_nBaseX = 0; ///< place of the background in the pad, in pixels
     int m_nBaseY = 0;
     int m_nBaseWidth = -1; ///< below 1: as wide as the pad
     int m_nBaseHeight = -1;
     bool m_bPopupMode = false;
-    int m_nType = 0;
-    float m_fOpacity = 1.0F;
+    int m_nType = 0;             ///< the key set, as setType() takes it
+    float m_fOpacity = 1.0F;     ///< 1.0, or 0.6 while disabled; no pixel shows it
     std::string m_strUserDefine; ///< what the key "empty" types
     Common::SysLogger m_logger{"QTPANFx", "ZELNumPad"};
 

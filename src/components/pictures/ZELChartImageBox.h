@@ -11,8 +11,9 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELChartImageBox : public ZELImageBox
 {
 public:
-    static constexpr int pointLimit = 20;
+    static constexpr int pointLimit = 20; ///< greatest number of points
 
+    /** As that of ZELImageBox, but a fault of the element is told twice. All points are 0, 0. */
     ZELChartImageBox(QWidget* pParent, std::string strID, std::string strType,
                      TAMFx::Common::Xml::Node* pLayout);
     ~ZELChartImageBox() override;
@@ -27,7 +28,7 @@ public:
 
     int m_nPointX[pointLimit] = {}; ///< x of each point
     int m_nPointY[pointLimit] = {}; ///< y of each point
-    int m_nTotalPoint = pointLimit;
+    int m_nTotalPoint = pointLimit; ///< points in use, as setTotalPoint() says
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;

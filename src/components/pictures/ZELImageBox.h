@@ -22,6 +22,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELImageBox : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * A child of @p pParent, not shown. A null element, or one without "file", writes an error line
+     * and leaves the box with neither picture nor place.
+     */
     ZELImageBox(QWidget* pParent, std::string strID, std::string strType,
                 TAMFx::Common::Xml::Node* pLayout);
     ~ZELImageBox() override;
@@ -52,7 +56,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
 
     QPixmap* m_pBGPixmap = nullptr; ///< not owned
-    int m_nRotate = 0;
+    int m_nRotate = 0;              ///< degrees, clockwise
     Common::SysLogger m_logger{"QTPANFx", "ZELImageBox"};
 
 private:

@@ -11,6 +11,7 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELPieImageBox : public ZELImageBox
 {
 public:
+    /** As that of ZELImageBox; nothing is hidden. */
     ZELPieImageBox(QWidget* pParent, std::string strID, std::string strType,
                    TAMFx::Common::Xml::Node* pLayout);
     ~ZELPieImageBox() override;

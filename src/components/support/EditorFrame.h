@@ -34,7 +34,7 @@ struct FrameNames
 /** A frame; the pictures stay the resource manager's. */
 struct FramePieces
 {
-    QPixmap* start = nullptr;
+    QPixmap* start = nullptr; ///< null where there is none, as the other two
     QPixmap* mid = nullptr;
     QPixmap* end = nullptr;
 
@@ -93,7 +93,7 @@ Elision elisionFor(int nMode);
 /** What a field shows, decoded. */
 struct FieldText
 {
-    QString shown;
+    QString shown;       ///< the value; "" shows the placeholder
     QString placeholder; ///< shown while there is no text
     int echoMode = 0;    ///< 1 shows an asterisk for each character
     Elision elision;

@@ -11,8 +11,8 @@ namespace PANFx::Components {
 /** A place as a layout gives it, in pixels. */
 struct LayoutPosition
 {
-    int x;
-    int y;
+    int x; ///< from the left side of the parent
+    int y; ///< from its upper side
     int width;
     int height;
 

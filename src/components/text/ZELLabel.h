@@ -26,6 +26,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELLabel : public ZELComponent, public QWidget
 {
 public:
+    /**
+     * A child of @p pParent, not shown. A null element writes an error line and leaves the label
+     * with neither text nor place.
+     */
     ZELLabel(QWidget* pParent, std::string strID, std::string strType,
              TAMFx::Common::Xml::Node* pLayout);
     ~ZELLabel() override;
@@ -50,9 +54,10 @@ public:
     /** Elides to the width of the widget from now on. The second style is never elided. */
     void setElidedText();
 
+    /** UTF-8, shown as it is: "@key" is looked up in layouts only. */
     void setTitle(std::string strTitle);
 
-    /** Null empties the title. */
+    /** The same; null empties the title. */
     void setTitle(const char* pszTitle);
 
     /**
@@ -67,11 +72,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
 
-    Resource::Font* m_pFont = nullptr;
-    Resource::Font* m_pFont2 = nullptr;
-    int m_nFontStyle = 0;
-    std::string m_strTitle;
-    int m_nAlign = Qt::AlignCenter;
+    Resource::Font* m_pFont = nullptr;  ///< not owned; the first style
+    Resource::Font* m_pFont2 = nullptr; ///< not owned; the second style
+    int m_nFontStyle = 0;               ///< 0 for the first style, 1 for the second
+    std::string m_strTitle;             ///< UTF-8
+    int m_nAlign = Qt::AlignCenter;     ///< Qt alignment flags
     bool m_bShadow = false;
     bool m_bElided = false;
     Common::SysLogger m_logger{"QTPANFx", "ZELLabel"};

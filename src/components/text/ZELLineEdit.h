@@ -33,6 +33,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELLineEdit : public ZELComponent, public QLineEdit
 {
 public:
+    /**
+     * A child of @p pParent, not shown. A null element writes an error line and leaves the field
+     * with neither frame nor style.
+     */
     ZELLineEdit(QWidget* pParent, std::string strID, std::string strType,
                 TAMFx::Common::Xml::Node* pLayout);
     ~ZELLineEdit() override;
@@ -71,12 +75,16 @@ public:
     bool setCurImage(QPixmap* pStart, QPixmap* pMid, QPixmap* pEnd);
 
     /**
-     * Pictures of the three states by file name; what is missing becomes null.
-     * @param bCurrent makes them current at once
+     * The pieces of the field without the focus, by file name; what is missing becomes null.
+     * @param bCurrent makes them current at once, and repaints
      * @return whether all three exist
      */
     bool setUpImage(std::string strStart, std::string strMid, std::string strEnd, bool bCurrent);
+
+    /** The pieces of the field with the focus. @return whether all three exist */
     bool setDownImage(std::string strStart, std::string strMid, std::string strEnd);
+
+    /** The pieces of the dimmed field. @return whether all three exist */
     bool setDimImage(std::string strStart, std::string strMid, std::string strEnd);
 
     /** Dimmed: shows the dim pieces, takes no input, posts nothing. */
@@ -92,12 +100,15 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
 
     bool m_bDimMode = false;
-    int m_nAlign = Qt::AlignLeft | Qt::AlignVCenter;
-    int m_nEchoMode = 0;
-    std::string m_strReserved; ///< read by nothing
-    Resource::Font* m_pFont = nullptr;
-    Resource::Font* m_pDimFont = nullptr; ///< painted with by nothing
-    QRect m_rcText;
+    int m_nAlign = Qt::AlignLeft | Qt::AlignVCenter; ///< Qt alignment flags of the text
+    int m_nEchoMode = 0;                             ///< 1 shows an asterisk for each character
+    std::string m_strReserved;                       ///< read by nothing
+    Resource::Font* m_pFont = nullptr;               ///< not owned; null paints no text
+    Resource::Font* m_pDimFont = nullptr;            ///< not owned; painted with by nothing
+    QRect m_rcText;                                  ///< text area in the widget
+
+    /// @{
+    /** A piece of the frame, not owned; null where there is none. The current three are painted. */
     QPixmap* m_pCurStart = nullptr;
     QPixmap* m_pCurMid = nullptr;
     QPixmap* m_pCurEnd = nullptr;
@@ -110,10 +121,12 @@ protected:
     QPixmap* m_pDimStart = nullptr;
     QPixmap* m_pDimMid = nullptr;
     QPixmap* m_pDimEnd = nullptr;
+    /// @}
+
     Common::SysLogger m_logger{"QTPANFx", "ZELLineEdit"};
-    int m_nElideMode = Elision::none;
-    int m_nElideType = Elision::none;
-    QString m_strBarcode; ///< what barcode mode shows
+    int m_nElideMode = Elision::none; ///< Qt elide mode now in force
+    int m_nElideType = Elision::none; ///< what was asked for
+    QString m_strBarcode;             ///< what barcode mode shows
     bool m_bBarcodeMode = false;
     bool m_bShowMode = false;  ///< the next paint takes the typed text over
     bool m_bClearOnKey = true; ///< the next key in barcode mode empties the field

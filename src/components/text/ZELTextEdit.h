@@ -18,6 +18,10 @@ namespace PANFx::Components {
 class QTPANFX_EXPORT ZELTextEdit : public ZELComponent, public QTextEdit
 {
 public:
+    /**
+     * A child of @p pParent, not shown. A null element writes an error line; without a style sheet
+     * file there is a debug line and the look of Qt.
+     */
     ZELTextEdit(QWidget* pParent, std::string strID, std::string strType,
                 TAMFx::Common::Xml::Node* pLayout);
     ~ZELTextEdit() override;
