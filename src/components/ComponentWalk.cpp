@@ -2,7 +2,6 @@
 
 #include "common/tamfx/Node.h"
 #include "components/ComponentFactory.h"
-#include "components/ZELComponent.h"
 
 namespace PANFx::Components {
 
@@ -22,13 +21,10 @@ void createComponents(Node* pNode, QWidget* pParent, std::deque<ZELComponent*>& 
                 continue;
             ZELComponent* component =
                 factory->createComponent(pParent, group->getName(), element->getName(), element);
-            if (component) {
+            if (component)
                 components.push_back(component);
-                // a part from now on, wherever the application moves it
-                ZELComponent::isPartOf(pParent, component);
-            } else {
+            else
                 onFailure(group->getName(), element->getName());
-            }
         }
     }
 }

@@ -76,6 +76,13 @@ bool ZELComponent::isPartOf(const QWidget* pWidget, ZELComponent* pComponent)
     return true;
 }
 
+void ZELComponent::adoptParts(const QWidget* pWidget, const std::deque<ZELComponent*>& components,
+                              std::size_t nFirst)
+{
+    for (std::size_t i = nFirst; i < components.size(); ++i)
+        isPartOf(pWidget, components[i]);
+}
+
 bool ZELComponent::liesIn(const QWidget* pWidget, ZELComponent* pComponent)
 {
     return isAlive(pComponent) && isInside(pWidget, pComponent->getQWidget());
@@ -88,11 +95,13 @@ void ZELComponent::createSubComponent(Node* pLayout)
                             m_strType.c_str());
         return;
     }
+    const std::size_t first = m_dqSubComponents.size();
     createComponents(pLayout, getQWidget(), m_dqSubComponents,
                      [this](const char* keyword, const char* id) {
                          m_logger.WriteError("[%s] Fail to create a component (%s, %s)",
                                              "createSubComponent", keyword, id);
                      });
+    adoptParts(getQWidget(), m_dqSubComponents, first);
 }
 
 void ZELComponent::showSubComponent()

@@ -5,6 +5,8 @@
 #include "common/ZELWindow.h"
 #include "components/ComponentDeque.h"
 
+#include <cstddef>
+#include <deque>
 #include <string>
 
 class QObject;
@@ -81,6 +83,10 @@ public:
      * depth, and what did so when it was made or first asked for, wherever it was moved since.
      */
     static bool isPartOf(const QWidget* pWidget, ZELComponent* pComponent);
+
+    /** Makes parts of @p pWidget of the components from the place @p nFirst on; they lie inside. */
+    static void adoptParts(const QWidget* pWidget, const std::deque<ZELComponent*>& components,
+                           std::size_t nFirst);
 
     /** Whether it is alive and lies inside @p pWidget now, at any depth. */
     static bool liesIn(const QWidget* pWidget, ZELComponent* pComponent);

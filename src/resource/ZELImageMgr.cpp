@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <new>
 #include <utility>
+#include <vector>
 
 namespace PANFx::Resource {
 
@@ -48,6 +49,10 @@ ZELImageMgr::ZELImageMgr()
 ZELImageMgr::~ZELImageMgr()
 {
     m_tableImages.ClearAll();
+    // Never freed, and empty by now: a window that outlives the manager still points to them.
+    static auto* const outlived = new std::vector<std::unique_ptr<QPixmap>>;
+    for (auto& [name, shell] : m_shells)
+        outlived->push_back(std::move(shell));
 }
 
 void ZELImageMgr::setBasePath(std::string strBasePath)

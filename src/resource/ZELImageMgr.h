@@ -18,7 +18,8 @@ namespace PANFx::Resource {
  *
  * A change of language frees the pixels of all pictures at once. The emptied QPixmap objects stay,
  * and are filled again when the same name is asked for, so that a window that outlives the change
- * shows nothing or the new picture and never reads freed memory.
+ * shows nothing or the new picture and never reads freed memory. The end of the manager leaves them
+ * empty too.
  */
 class QTPANFX_EXPORT ZELImageMgr
 {

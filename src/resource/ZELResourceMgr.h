@@ -31,7 +31,10 @@ public:
     /** The one instance, made on first use. */
     static ZELResourceMgr* getInstance();
 
-    /** Deletes the instance; the next getInstance makes a new one. */
+    /**
+     * Deletes the instance; the next getInstance makes a new one. Best called when no window is
+     * left: one that is shows no pictures any more.
+     */
     static void destroyInstance();
 
     virtual ~ZELResourceMgr();

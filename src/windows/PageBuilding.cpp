@@ -58,7 +58,9 @@ void createPageComponents(TAMFx::Common::Xml::Node* pComponents, QWidget& parent
                           "createSubComponent", strID.c_str());
         return;
     }
+    const std::size_t first = components.size();
     Components::createComponents(pComponents, &parent, components, onFailure);
+    ZELComponent::adoptParts(&parent, components, first);
 }
 
 void showComponents(const std::deque<ZELComponent*>& components, const QWidget& page)

@@ -182,11 +182,15 @@ TEST_F(CaptureTest, MakesANameOfTheTime)
 
 TEST_F(CaptureTest, OverwritesACaptureOfTheSameSecond)
 {
-    withinOneSecond([] {
-        Capture::viewCapture(10, nullptr);
-        Capture::viewCapture(10, "");
+    const auto first = window(QRect(0, 0, 800, 480), Qt::blue);
+    const std::string stamp = withinOneSecond([this] {
+        Capture::viewCapture(80, nullptr);
+        const auto second = window(QRect(0, 0, 800, 480), Qt::red);
+        Capture::viewCapture(80, "");
     });
     EXPECT_EQ(captures().size(), 1);
+    const QColor kept = saved("/tmp/screen_" + stamp + ".jpg").pixelColor(400, 240);
+    EXPECT_TRUE(kept.red() > 200 && kept.blue() < 50) << "the second one";
 }
 
 TEST_F(CaptureTest, SavesInTheQualityAskedFor)

@@ -488,6 +488,7 @@ TEST_F(ZELResourceMgrTest, leavesWhatWasHandedOutReadableOverAChangeOfLanguage)
     EXPECT_NE(manager().getFont("pressed"), style);
     ZELResourceMgr::destroyInstance();
     EXPECT_EQ(*style->m_pColor, QColor(255, 0, 0));
+    EXPECT_TRUE(picture->isNull()) << "a window that outlives the manager paints without it";
 }
 
 TEST_F(ZELResourceMgrTest, signsWithItsOwnName)

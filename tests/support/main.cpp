@@ -57,6 +57,8 @@ int main(int argc, char** argv)
     const QTemporaryDir runtime; // Qt wants one, and a bare machine has none
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
     QApplication application(argc, argv);
+    // else the first test that closes the last window ends the loops of all that come after it
+    QApplication::setQuitOnLastWindowClosed(false);
     // the instrument's font, which a development machine need not have
     QFont::insertSubstitution(QStringLiteral("Droid Sans Mono"),
                               QStringLiteral("DejaVu Sans Mono"));

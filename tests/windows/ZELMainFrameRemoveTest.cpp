@@ -380,6 +380,7 @@ TEST_F(ZELMainFrameRemoveTest, aPageThatTheApplicationDeletedIsUnknownAndMadeAne
     EXPECT_EQ(frame().moveBack()->m_strID, "b");
     EXPECT_EQ(frame().moveBack()->m_strID, "a");
     delete frame().findChild("c");
+    expectTooShortAHistory(1);
     frame().removeAllChildWnd("a");
     EXPECT_EQ(deaths(), (Strings{"c", "b"}));
 }

@@ -65,13 +65,13 @@ TEST_F(ZELMainFrameTest, hasOneVirtualOperationBehindThoseOfQt)
     public:
         virtual void next() {}
     };
-    class AnyFrame : public ZELMainFrame
+    class AnyFrame : public Windows::ZELMainFrame
     {
     public:
         virtual void next() {}
     };
     const std::intptr_t first = slot(&AnyWindow::next);
-    EXPECT_EQ(slot(&ZELMainFrame::createChildWindow), first);
+    EXPECT_EQ(slot(&Windows::ZELMainFrame::createChildWindow), first);
     EXPECT_EQ(slot(&AnyFrame::next), first + slotSize);
 }
 

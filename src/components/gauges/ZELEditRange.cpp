@@ -122,7 +122,7 @@ void ZELEditRange::setStep(int nStep)
     if (m_bWrap)
         dimButtons(false, false);
     moveWithin(nStep, m_nMax - 1);
-    if (m_pEditor) {
+    if (isAlive(m_pEditor)) {
         const std::string text = ZELResourceMgr::getInstance()->getLocaleString(getParam(m_nStep));
         m_pEditor->setText(text.c_str());
     }
@@ -132,7 +132,7 @@ void ZELEditRange::setStep(int nStep)
 void ZELEditRange::setEnable(bool bEnable)
 {
     enableButtons(bEnable);
-    if (m_pEditor)
+    if (isAlive(m_pEditor))
         m_pEditor->setDimMode(!bEnable);
     setEnabled(bEnable);
 }

@@ -120,13 +120,18 @@ void ZELImageProgressBar::paintEvent(QPaintEvent*)
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, *m_pBGPixmap);
-    if (hasPicture(m_pStartPixmap) && hasPicture(m_pMidPixmap) && hasPicture(m_pEndPixmap))
+    if (hasPicture(m_pStartPixmap) && hasPicture(m_pEndPixmap))
         paintFill(painter);
     else
-        m_noFill.error(m_logger, "paintEvent", m_strID, "has no pictures for the fill");
+        tellNoFill();
     if (m_pFont)
         drawStyledText(painter, QString::asprintf("%d%%", value()), *m_pFont, rect(),
                        Qt::AlignCenter);
+}
+
+void ZELImageProgressBar::tellNoFill()
+{
+    m_noFill.error(m_logger, "paintEvent", m_strID, "has no pictures for the fill");
 }
 
 // A fill that is too short for its caps shows both of them whole.
@@ -143,8 +148,12 @@ void ZELImageProgressBar::paintFill(QPainter& painter)
         painter.drawPixmap(m_nOffsetX + start, m_nOffsetY, *m_pEndPixmap);
         return;
     }
-    drawPicture(painter, m_pMidPixmap,
-                QRect(m_nOffsetX + start, m_nOffsetY, fill - start - end, m_pMidPixmap->height()));
+    if (hasPicture(m_pMidPixmap))
+        drawPicture(
+            painter, m_pMidPixmap,
+            QRect(m_nOffsetX + start, m_nOffsetY, fill - start - end, m_pMidPixmap->height()));
+    else
+        tellNoFill();
     painter.drawPixmap(m_nOffsetX, m_nOffsetY, *m_pStartPixmap);
     painter.drawPixmap(m_nOffsetX + fill - end, m_nOffsetY, *m_pEndPixmap);
 }

@@ -58,6 +58,7 @@ protected:
 private:
     void readOffset(TAMFx::Common::Xml::Node* pOffset);
     void paintFill(QPainter& painter);
+    void tellNoFill();
 
     TellOnce m_noFill;
 };

@@ -36,7 +36,7 @@ ZELRange::~ZELRange()
 
 void ZELRange::setSoundMode(bool bSoundMode)
 {
-    if (!m_pUpBtn || !m_pDownBtn) {
+    if (!isAlive(m_pUpBtn) || !isAlive(m_pDownBtn)) {
         m_logger.WriteError("[%s] %s has not both buttons", "setSoundMode", m_strID.c_str());
         return;
     }
@@ -66,9 +66,9 @@ void ZELRange::dressButton(ZELImageButton& button, Node* pNode)
 
 void ZELRange::dimButtons(bool bUp, bool bDown)
 {
-    if (m_pUpBtn)
+    if (isAlive(m_pUpBtn))
         m_pUpBtn->setDimMode(bUp);
-    if (m_pDownBtn)
+    if (isAlive(m_pDownBtn))
         m_pDownBtn->setDimMode(bDown);
 }
 

@@ -103,20 +103,20 @@ void ZELRoundProgressBar::SetPercent(int nPercent)
     setValue(nPercent);
     const int angle = hiddenAngle(nPercent);
     m_logger.WriteDebug("[%s] Percent : %d Angle : %d", "SetPercent", nPercent, angle);
-    if (m_pRoundBox)
+    if (isAlive(m_pRoundBox))
         m_pRoundBox->SetAngle(angle);
 }
 
 void ZELRoundProgressBar::setRoundImage(std::string strName)
 {
-    if (!m_pRoundBox || !m_pRoundBox->setImage(strName))
+    if (!isAlive(m_pRoundBox) || !m_pRoundBox->setImage(strName))
         m_logger.WriteError("[%s] Failed to load progress round image %s", "setRoundImage",
                             strName.c_str());
 }
 
 void ZELRoundProgressBar::setBackgroundImage(std::string strName)
 {
-    if (!m_pBGBox || !m_pBGBox->setImage(strName))
+    if (!isAlive(m_pBGBox) || !m_pBGBox->setImage(strName))
         m_logger.WriteError("[%s] Failed to load progress background image %s",
                             "setBackgroundImage", strName.c_str());
 }

@@ -75,7 +75,7 @@ TEST_F(ZELImageButtonLongPressTest, ticksGoOnWhenTheFingerSlidesOff)
     EXPECT_EQ(panel().takeTypes(), (Types{1571, 1571, 1552}));
 }
 
-TEST_F(ZELImageButtonLongPressTest, hiddenOrBlockedBetweenTheTicksItFallsSilent)
+TEST_F(ZELImageButtonLongPressTest, hiddenOrBlockedBetweenTheTicksItTellsTheNextOneAndIsSilent)
 {
     for (const QEvent::Type type : {QEvent::Hide, QEvent::WindowBlocked}) {
         auto* const button = make<Button>(ok("longpress='true'"));
@@ -84,9 +84,10 @@ TEST_F(ZELImageButtonLongPressTest, hiddenOrBlockedBetweenTheTicksItFallsSilent)
         tick(button);
         QEvent event(type);
         QCoreApplication::sendEvent(button, &event);
-        EXPECT_FALSE(button->m_pTimer->isActive()) << type;
         EXPECT_FALSE(button->m_bPressed) << type;
-        EXPECT_EQ(panel().takeTypes(), (Types{1571, 1571})) << type;
+        tick(button);
+        EXPECT_FALSE(button->m_pTimer->isActive()) << type;
+        EXPECT_EQ(panel().takeTypes(), (Types{1571, 1571, 1571})) << type;
     }
 }
 

@@ -160,8 +160,10 @@ TEST_F(ZELTabEventTest, otherClassesOfEventsStopThere)
     auto* const tab = makeTab(pairs(1));
     for (QWidget* const widget :
          {static_cast<QWidget*>(tab), tab->getSubComponent("p0")->getQWidget()}) {
-        EXPECT_TRUE(send(widget, {1600, Kind::Error})) << "Qt takes it";
-        EXPECT_EQ(panel().takeTypes(), Types{});
+        for (const Kind kind : {Kind::Error, Kind::Result}) {
+            EXPECT_TRUE(send(widget, {1600, kind})) << "Qt takes it";
+            EXPECT_EQ(panel().takeTypes(), Types{});
+        }
         log().expectError("[eventHandler] event 1600 is no ZELEvent", 1, "EventTranslator");
         EXPECT_TRUE(send(widget, {1600, Kind::Plain}));
         EXPECT_EQ(panel().takeTypes(), Types{});

@@ -246,6 +246,9 @@ TEST_F(ZELEditRangeTest, deletesNoEditorTwice)
 {
     auto* const range = withTexts(three);
     delete range->m_pEditor;
+    range->setStep(1);
+    range->setEnable(false);
+    EXPECT_EQ(range->getStep(), 1) << "it goes on without";
     delete range;
 }
 

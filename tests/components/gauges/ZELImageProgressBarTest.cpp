@@ -294,6 +294,28 @@ TEST_F(ZELImageProgressBarTest, aFillWithoutItsPicturesIsToldOnceAndTheRestIsPai
         EXPECT_TRUE(Pixels::same(Pixels::grab(made), image));
 }
 
+TEST_F(ZELImageProgressBarTest, withoutTheMiddleTheCapsAreDrawnAllTheSame)
+{
+    auto* const made = whole();
+    const auto painted = [made](int percent, const char* middle) {
+        made->setImage("back.png", "start.png", middle, "end.png");
+        made->SetPercent(percent);
+        return Pixels::grab(made);
+    };
+    EXPECT_TRUE(Pixels::same(painted(0, "no.png"), painted(0, "mid.png")));
+    EXPECT_TRUE(Pixels::same(painted(1, "no.png"), painted(1, "mid.png"))) << "the caps alone";
+    EXPECT_FALSE(Pixels::same(painted(1, "no.png"), painted(0, "no.png")));
+    log().expectError("[paintEvent] bar has no pictures for the fill", 1, "ZELImageProgressBar");
+    const QImage half = painted(50, "no.png");
+    const QImage whole = painted(50, "mid.png");
+    int differing = 0;
+    const int row = made->m_nOffsetY + 1;
+    for (int x = 0; x < half.width(); ++x)
+        differing += half.pixel(x, row) != whole.pixel(x, row);
+    const auto fill = static_cast<int>((made->width() - 2LL * made->m_nOffsetX) / 2);
+    EXPECT_EQ(differing, fill - made->m_pStartPixmap->width() - made->m_pEndPixmap->width());
+}
+
 TEST_F(ZELImageProgressBarTest, insetsWiderThanTheBarLeaveNoFill)
 {
     auto* const made = bar(images() + "<offset x='150' y='3'/>");

@@ -373,6 +373,11 @@ TYPED_TEST(ZELRangeTest, deletesNoPartTwice)
     auto* const range = this->makeRange();
     delete this->makeExtra(range);
     delete range->m_pUpBtn;
+    range->setStep(1);
+    range->setEnable(true);
+    EXPECT_EQ(range->getStep(), 1) << "it goes on without";
+    delete range->m_pDownBtn;
+    range->setStep(0);
     delete range;
 }
 

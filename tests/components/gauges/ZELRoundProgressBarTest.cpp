@@ -326,6 +326,9 @@ TEST_F(ZELRoundProgressBarTest, deletesItsBoxesAndNoneTwice)
 
     auto* const second = whole();
     delete second->m_pBGBox;
+    delete second->m_pRoundBox;
+    second->SetPercent(30);
+    EXPECT_EQ(second->value(), 30) << "it goes on without";
     delete second;
 }
 

@@ -4,6 +4,7 @@
 #include "events/ZELErrorEvent.h"
 #include "events/ZELListEvent.h"
 #include "events/ZELRangeEvent.h"
+#include "events/ZELResultEvent.h"
 #include "events/ZELStringEvent.h"
 #include "support/VirtualSlot.h"
 
@@ -15,10 +16,10 @@
 namespace PANFx::Testing {
 
 /** The classes of events that can come under a number. */
-enum class Kind { Plain, Event, Range, List, String, Error };
+enum class Kind { Plain, Event, Range, List, String, Error, Result };
 
-constexpr Kind allKinds[] = {Kind::Plain, Kind::Event,  Kind::Range,
-                             Kind::List,  Kind::String, Kind::Error};
+constexpr Kind allKinds[] = {Kind::Plain,  Kind::Event, Kind::Range, Kind::List,
+                             Kind::String, Kind::Error, Kind::Result};
 
 /** An event as it reaches a row, a header or a list. Its id is "cell" unless told otherwise. */
 struct Incoming
@@ -48,13 +49,16 @@ struct Incoming
             return withId(std::make_unique<ZELStringEvent>(number, "1", "2", "3", "4"));
         case Kind::Error:
             return withId(std::make_unique<ZELErrorEvent>(number, 1u, 'A', "text"));
+        case Kind::Result:
+            return withId(std::make_unique<ZELResultEvent>(number, 1, nullptr));
         }
         return nullptr;
     }
 
     friend std::ostream& operator<<(std::ostream& out, const Incoming& event)
     {
-        static const char* const names[] = {"plain", "event", "range", "list", "string", "error"};
+        static const char* const names[] = {"plain",  "event", "range", "list",
+                                            "string", "error", "result"};
         return out << names[int(event.kind)] << " " << event.type << " (" << event.row << ", "
                    << event.column << ")" << (event.header ? " header" : "");
     }
