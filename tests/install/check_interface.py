@@ -107,7 +107,7 @@ def main():
         good = check_layout(library, options, ABI / f"{name}.abi.xz") and good
     if not good:
         sys.exit("The interface has changed. If that is meant, write the records anew with\n"
-                 "    cmake --build BUILD --target interface_update\nand raise SOVERSION when it "
+                 "    cmake --build BUILD --target interface_update\nand raise QTPANFX_SOVERSION when it "
                  "breaks applications that are built already.")
     print("ok: the interface is as written down")
 
