@@ -1,7 +1,12 @@
 #include "common/systemPath.h"
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+#include <vector>
 
 using PANFx::Common::systemPath;
 
@@ -67,6 +72,26 @@ TEST_F(SystemPath, ignoresTheRootWhereTheOptionIsOff)
 {
     setRoot("/root");
     EXPECT_EQ(systemPath("/tmp"), "/tmp");
+}
+
+// This program holds one source of the library; here is why that is enough.
+TEST_F(SystemPath, isAllOfTheLibraryThatTheOptionChanges)
+{
+    std::vector<std::string> changed;
+    for (const auto& entry :
+         std::filesystem::recursive_directory_iterator(QTPANFX_SOURCE_DIR "/src")) {
+        const std::string ending = entry.path().extension().string();
+        if (ending != ".cpp" && ending != ".h")
+            continue;
+        std::ifstream file(entry.path());
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        for (const char* trace : {"QTPANFX_WITH_SYSROOT", "\"QTPANFX_SYSROOT\""}) {
+            if (text.find(trace) != std::string::npos)
+                changed.push_back(entry.path().filename().string() + ": " + trace);
+        }
+    }
+    EXPECT_EQ(changed, (std::vector<std::string>{"systemPath.cpp: QTPANFX_WITH_SYSROOT",
+                                                 "systemPath.cpp: \"QTPANFX_SYSROOT\""}));
 }
 
 #endif

@@ -12,7 +12,7 @@ import re
 import sys
 import tempfile
 
-from install_tools import EXAMPLES, HERE, Tree, expect, foreign_symbol, run
+from install_tools import EXAMPLES, HERE, Tree, cached, expect, expect_refused, foreign_symbol, run
 
 LAYOUT = """<layout><Base><background>back.png</background></Base><Components><label>
 <hello title="Hello"><position x="1" y="1" width="99" height="30"/></hello>
@@ -55,7 +55,8 @@ class Install(Tree):
         out = run(program, layout, env=self.environment(), timeout=60)
         expect("label seen" in out, f"a program on the foundation built by {how} runs")
         loaded = self.loaded(program)
-        expect("libTAMFx.so.0" in loaded, f"and uses the installed libTAMFx ({how})")
+        name = f"libTAMFx.so.{self.options.soversion}"
+        expect(f"{name} =>" in loaded, f"and uses the installed libTAMFx ({how})")
         expect("Qt" not in loaded, f"and loads no Qt ({how})")
 
     def check_cmake_package(self):
@@ -84,6 +85,35 @@ class Install(Tree):
         self.compile(package, EXAMPLES / "first-page/main.cpp", self.work / "hello")
         self.expect_lives(self.work / "hello", EXAMPLES / "first-page/root", "pkg-config")
 
+    def check_old_qt(self):
+        """A Qt before the oldest that README.md names is refused, by the package and the project."""
+        qt = f"Qt{self.options.qt}"
+        old, oldest = {"5": ("5.14.2", "5.15"), "6": ("6.3.2", "6.4")}[self.options.qt]
+        folder = self.work / "old-qt"
+        folder.mkdir()
+        (folder / f"{qt}Config.cmake").write_text("")
+        (folder / f"{qt}ConfigVersion.cmake").write_text(
+            f"set(PACKAGE_VERSION {old})\n"
+            "if(NOT PACKAGE_FIND_VERSION VERSION_GREATER PACKAGE_VERSION)\n"
+            "    set(PACKAGE_VERSION_COMPATIBLE ON)\nendif()\n"
+        )
+        project = pathlib.Path(self.options.src).parent
+        for source, option, what in (
+            (HERE / "panel", f"-DQTPANFX={self.options.package}", "find_package"),
+            (project, f"-DQTPANFX_QT_MAJOR={self.options.qt}", "the project"),
+        ):
+            expect_refused(
+                f'compatible with requested version "{oldest}"', f"{what} with Qt {old}",
+                self.options.cmake, "-S", source, "-B", folder / source.name,
+                "-G", self.options.generator, f"-D{qt}_DIR={folder}", option,
+                f"-DCMAKE_CXX_COMPILER={self.options.compiler}",
+                f"-DCMAKE_PREFIX_PATH={self.prefix}",
+                # and not the system's Qt instead, which is looked for beside the programs in PATH
+                f"-DCMAKE_MAKE_PROGRAM={cached(self.options.build, 'CMAKE_MAKE_PROGRAM')}",
+                "-DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF",
+                "-DCMAKE_FIND_USE_SYSTEM_ENVIRONMENT_PATH=OFF",
+            )
+
     def check_header_tree(self):
         for header in pathlib.Path(self.options.src).rglob("*.h"):
             name = header.relative_to(self.options.src)
@@ -103,7 +133,8 @@ class Install(Tree):
     def check_symbols(self, library):
         path = self.libraries / f"lib{library}.so"
         dynamic = run("readelf", "-d", path)
-        expect(f"soname: [lib{library}.so.0]" in dynamic, f"lib{library} is named .so.0")
+        soname = f"lib{library}.so.{self.options.soversion}"
+        expect(f"soname: [{soname}]" in dynamic, f"programs look for lib{library} as {soname}")
         names = self.exported_names()
         mangled = [line.split()[2] for line in run("nm", "-D", "--defined-only", path).splitlines()]
         ours = [symbol for symbol in mangled if not foreign_symbol(symbol)]
@@ -117,7 +148,8 @@ class Install(Tree):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    for name in ("cmake", "build", "generator", "compiler", "package", "version", "src", "libdir"):
+    for name in ("cmake", "build", "generator", "compiler", "package", "version", "soversion",
+                 "qt", "src", "libdir"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     with tempfile.TemporaryDirectory(prefix="qtpanfx-install-") as name:
@@ -131,6 +163,7 @@ def main():
         expect("Qt" not in dynamic, "libTAMFx needs no Qt")
         installed.check_pkg_config()
         installed.check_cmake_package()
+        installed.check_old_qt()
 
 
 if __name__ == "__main__":

@@ -9,20 +9,9 @@ import pathlib
 import sys
 import tempfile
 
-from install_tools import EXAMPLES, Tree, expect, run
+from install_tools import EXAMPLES, Tree, cached, expect, run
 
 PACKAGES = {"6": "QTPANFx", "5": "QTPANFx-qt5"}
-
-
-def cached(build, name):
-    """A value in the cache of a build folder, or nothing where it isn't built to the end."""
-    cache = build / "CMakeCache.txt"
-    if not cache.is_file() or not list((build / "lib").glob("libQTPANFx*.so")):
-        return None
-    for line in cache.read_text(encoding="utf-8").splitlines():
-        if line.startswith(f"{name}:"):
-            return line.partition("=")[2]
-    return None
 
 
 def main():
@@ -31,7 +20,8 @@ def main():
         parser.add_argument(f"--{name}", required=True)
     parser.add_argument("builds", nargs="+", type=pathlib.Path)
     options = parser.parse_args()
-    builds = {cached(build, "QTPANFX_QT_MAJOR"): build for build in options.builds}
+    built = [build for build in options.builds if list((build / "lib").glob("libQTPANFx*.so"))]
+    builds = {cached(build, "QTPANFX_QT_MAJOR"): build for build in built}
     if set(builds) != {"5", "6"}:
         print("skipped: there is no build with each of the Qt versions")
         sys.exit(77)

@@ -22,11 +22,10 @@ def foreign_symbol(name):
     return FOREIGN.match(name) is not None
 
 
-def run(*command, env=None, **options):
-    """Runs a command to its end and gives what it printed; ends the test when it fails."""
-    command = [str(word) for word in command]
-    done = subprocess.run(
-        command,
+def attempt(*command, env=None, **options):
+    """Runs a command to its end; what it printed is in stdout, errors too."""
+    return subprocess.run(
+        [str(word) for word in command],
         env={**os.environ, **(env or {})},
         stdout=subprocess.PIPE,
         stderr=subprocess.STDOUT,
@@ -34,9 +33,32 @@ def run(*command, env=None, **options):
         check=False,
         **options,
     )
+
+
+def run(*command, **options):
+    """Runs a command to its end and gives what it printed; ends the test when it fails."""
+    done = attempt(*command, **options)
     if done.returncode != 0:
-        sys.exit(f"failed ({done.returncode}): {' '.join(command)}\n{done.stdout}")
+        sys.exit(f"failed ({done.returncode}): {' '.join(done.args)}\n{done.stdout}")
     return done.stdout
+
+
+def expect_refused(reason, what, *command, **options):
+    """Runs a command that has to fail, and sees that it says why."""
+    done = attempt(*command, **options)
+    said = " ".join(done.stdout.split())
+    expect(done.returncode != 0 and reason in said, f"{what}: {reason}")
+
+
+def cached(build, name):
+    """A value in the cache of a build folder, or nothing."""
+    cache = pathlib.Path(build) / "CMakeCache.txt"
+    if not cache.is_file():
+        return None
+    for line in cache.read_text(encoding="utf-8").splitlines():
+        if line.startswith(f"{name}:"):
+            return line.partition("=")[2]
+    return None
 
 
 def expect(condition, text):
