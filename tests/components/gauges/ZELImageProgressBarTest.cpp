@@ -294,6 +294,20 @@ TEST_F(ZELImageProgressBarTest, aFillWithoutItsPicturesIsToldOnceAndTheRestIsPai
         EXPECT_TRUE(Pixels::same(Pixels::grab(made), image));
 }
 
+TEST_F(ZELImageProgressBarTest, onePictureOfTheFillThatIsMissingLeavesNone)
+{
+    for (const std::string missing : {"start.png", "mid.png", "end.png"}) {
+        auto* const made = whole();
+        made->SetPercent(50);
+        const auto unless = [&missing](const char* name) { return name == missing ? "no" : name; };
+        made->setImage("back.png", unless("start.png"), unless("mid.png"), unless("end.png"));
+        log().expectError("[paintEvent] bar has no pictures for the fill", 1,
+                          "ZELImageProgressBar");
+        EXPECT_TRUE(Pixels::same(Pixels::grab(made), expected({}, -1, -1))) << missing;
+        delete made;
+    }
+}
+
 TEST_F(ZELImageProgressBarTest, insetsWiderThanTheBarLeaveNoFill)
 {
     auto* const made = bar(images() + "<offset x='150' y='3'/>");
