@@ -157,8 +157,8 @@ void ZELImageDateEdit::setText(std::string strText)
 
 void ZELImageDateEdit::setText(unsigned int nYear, unsigned int nMonth, unsigned int nDay)
 {
-    if (processText(nYear, nMonth, nDay))
-        update();
+    processText(nYear, nMonth, nDay);
+    update();
 }
 
 void ZELImageDateEdit::addText(const char* pszText)
