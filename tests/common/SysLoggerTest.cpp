@@ -199,6 +199,17 @@ TEST(SysLogger, writesALineThatCannotBeFormattedEmpty)
     EXPECT_EQ(written().text, "[D] ");
 }
 
+TEST(SysLogger, writesALineWithoutAFormatEmpty)
+{
+    const char* volatile none = nullptr; // as it comes from elsewhere, unknown to the compiler
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-security"
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+    SysLogger().WriteDebug(none);
+#pragma GCC diagnostic pop
+    EXPECT_EQ(written().text, "[D] ");
+}
+
 TEST(SysLogger, isDeletedThroughItsBaseAndCopied)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<SysLogger>);

@@ -57,6 +57,19 @@ TEST_F(ComponentDequeTest, growsAndShrinksAtBothEnds)
     EXPECT_EQ(content(), (All{&m_b}));
 }
 
+TEST_F(ComponentDequeTest, isReadBackwardsAndWhereItMayNotBeChanged)
+{
+    m_deque = std::deque<ZELComponent*>{&m_a, &m_b, &m_c};
+    EXPECT_EQ(All(m_deque.rbegin(), m_deque.rend()), (All{&m_c, &m_b, &m_a}));
+    const ComponentDeque& constant = m_deque;
+    EXPECT_EQ(All(constant.rbegin(), constant.rend()), (All{&m_c, &m_b, &m_a}));
+    EXPECT_EQ(constant.front(), &m_a);
+    EXPECT_EQ(constant[1], &m_b);
+    EXPECT_EQ(constant.at(1), &m_b);
+    EXPECT_EQ(constant.back(), &m_c);
+    EXPECT_THROW(constant.at(3), std::out_of_range);
+}
+
 TEST_F(ComponentDequeTest, insertsAndErasesAtAPlace)
 {
     m_deque.insert(m_deque.end(), &m_c);

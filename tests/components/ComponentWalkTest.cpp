@@ -5,6 +5,7 @@
 #include "support/FrameForTest.h"
 #include "support/PanelTest.h"
 #include "support/Pixels.h"
+#include "support/ResourceFaults.h"
 #include "windows/ZELChildWindow.h"
 
 using namespace PANFx::Testing;
@@ -137,6 +138,18 @@ TEST_F(ComponentWalkTest, anEmptyElementMakesNothing)
     EXPECT_EQ(build("").ids(), Ids{});
     EXPECT_EQ(build("only text, and a <!-- comment -->").ids(), Ids{});
     EXPECT_TRUE(log().lines().empty());
+}
+
+TEST_F(ComponentWalkTest, anEmptyPlaceAmongTheElementsIsPassedOver)
+{
+    ResourceFaults faults;
+    faults.emptyPlaceInStyles = 0; // the first child of whatever element has the name "Font"
+    expectFailure("Font", "y");
+    EXPECT_EQ(build("<Font><x/><y/></Font><label><a/></label>").ids(), Ids{"a"});
+
+    PlainComponent component(&panel(), "whole");
+    component.createSubComponent(element("<Font><label><a/></label><label><b/></label></Font>"));
+    EXPECT_EQ(component.ids(), Ids{"b"});
 }
 
 TEST_F(ComponentWalkTest, eachComponentReadsItsOwnElement)

@@ -3,6 +3,7 @@
 #include "support/EventLoop.h"
 #include "support/FrameForTest.h"
 #include "support/PanelTest.h"
+#include "support/ScreenFaults.h"
 #include "windows/ZELChildWindow.h"
 #include "windows/ZELPopupWindow.h"
 
@@ -12,9 +13,11 @@
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QScreen>
+#include <QWindow>
 
 #include <chrono>
 #include <ctime>
+#include <memory>
 #include <type_traits>
 
 using namespace PANFx::Testing;
@@ -145,6 +148,78 @@ TEST_F(CaptureTest, ShowsTheDialogOverItsPage)
     const QImage picture = saved("/tmp/dialog.jpg");
     EXPECT_TRUE(isNear(picture, 350, 250, Qt::cyan));
     EXPECT_TRUE(isNear(picture, 20, 20, Qt::black)); // nothing shows through a dialog
+}
+
+TEST_F(CaptureTest, PassesWindowsThatAreNoneOfItsOwnOrNotOnTheScreenYet)
+{
+    const auto red = window(QRect(100, 50, 200, 100), Qt::red);
+    QWindow foreign;
+    foreign.create();
+    QWindow unseen;
+    Capture::viewCapture(100, "/tmp/shot.jpg");
+    EXPECT_TRUE(isNear(saved("/tmp/shot.jpg"), 200, 100, Qt::red));
+    EXPECT_EQ(unseen.handle(), nullptr) << "it was made by the capture";
+}
+
+TEST_F(CaptureTest, SavesWhatARealScreenShows)
+{
+    const auto red = window(QRect(100, 50, 200, 100), Qt::red);
+    const QSize size = QGuiApplication::primaryScreen()->size();
+    ScreenFaults screen;
+    screen.platform = QStringLiteral("linuxfb");
+    screen.shown = QPixmap(size);
+    screen.shown.fill(Qt::magenta);
+    Capture::viewCapture(100, "/tmp/shot.jpg");
+    EXPECT_EQ(screen.grabbed, std::vector<QRect>{QRect(QPoint(0, 0), size)});
+    const QImage picture = saved("/tmp/shot.jpg");
+    EXPECT_EQ(picture.size(), size);
+    EXPECT_TRUE(isNear(picture, 200, 100, Qt::magenta));
+}
+
+TEST_F(CaptureTest, PaintsTheWindowsOfAScreenThatShowsNothing)
+{
+    const auto red = window(QRect(100, 50, 200, 100), Qt::red);
+    ScreenFaults screen;
+    screen.platform = QStringLiteral("eglfs");
+    Capture::viewCapture(100, "/tmp/shot.jpg");
+    EXPECT_EQ(screen.grabbed.size(), 1U);
+    EXPECT_TRUE(isNear(saved("/tmp/shot.jpg"), 200, 100, Qt::red));
+}
+
+TEST_F(CaptureTest, AsksNothingOfAScreenThatIsNone)
+{
+    ScreenFaults screen;
+    Capture::viewCapture(100, "/tmp/shot.jpg");
+    EXPECT_TRUE(screen.grabbed.empty()) << "offscreen it would be what nobody has written";
+    EXPECT_FALSE(saved("/tmp/shot.jpg").isNull());
+}
+
+TEST_F(CaptureTest, SavesNothingWithoutAScreen)
+{
+    ScreenFaults screen;
+    screen.noScreen = true;
+    Capture::viewCapture(100, "/tmp/shot.jpg");
+    EXPECT_FALSE(fileExists("/tmp/shot.jpg"));
+}
+
+TEST_F(CaptureTest, CanBeMadeAndDeletedThroughItsBase)
+{
+    class Own : public Capture
+    {
+    public:
+        explicit Own(bool& gone)
+            : m_gone(gone)
+        {
+        }
+        ~Own() override { m_gone = true; }
+
+    private:
+        bool& m_gone;
+    };
+    bool gone = false;
+    std::unique_ptr<Capture> capture = std::make_unique<Own>(gone);
+    capture.reset();
+    EXPECT_TRUE(gone);
 }
 
 TEST_F(CaptureTest, UsesTheNameAsItStands)

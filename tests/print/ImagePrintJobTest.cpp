@@ -1,16 +1,33 @@
 #include "print/PrinterForTest.h"
 #include "print/ReportImage.h"
+#include "support/InFrontOf.h"
 #include "support/PanelTest.h"
 #include "support/SerialPort.h"
 
 #include <QBuffer>
 #include <QImageReader>
 
+#include <algorithm>
 #include <cerrno>
 #include <iterator>
 #include <sys/resource.h>
 
 using namespace PANFx::Testing;
+
+#define PACK_BAND "_ZN5PANFx5Print8packBandERK6QImageiPh"
+
+static int bytesOfWiderBand = 0; // 0 for the bands as they are
+
+int widerPackBand(const QImage& dots, int band, unsigned char* bytes) IN_FRONT_OF(PACK_BAND);
+
+// a band of wider paper, white
+int widerPackBand(const QImage& dots, int band, unsigned char* bytes)
+{
+    if (bytesOfWiderBand == 0)
+        return next<int (*)(const QImage&, int, unsigned char*)>(PACK_BAND)(dots, band, bytes);
+    std::fill_n(bytes, bytesOfWiderBand, static_cast<unsigned char>(0));
+    return bytesOfWiderBand;
+}
 
 namespace {
 
@@ -115,6 +132,17 @@ TEST_F(ImagePrintJobTest, PausesBehindEachByteOfABandAndNoOther)
     }
     EXPECT_EQ(m_port.calls()[at++].text, "\x0A");
     EXPECT_EQ(m_port.calls()[at].text, "\x0A"); // of the job end
+}
+
+TEST_F(ImagePrintJobTest, PausesLongerBehindEach2048thByteOfAWiderBand)
+{
+    bytesOfWiderBand = 2 * 2048 + 1;
+    print(24);
+    bytesOfWiderBand = 0;
+    std::vector<long> pauses(2 * 2048 + 1, 1);
+    pauses[2047] = 500000;
+    pauses[4095] = 500000;
+    EXPECT_EQ(m_port.arguments(PortCall::Usleep), pauses);
 }
 
 TEST_F(ImagePrintJobTest, PacksTheImageIntoItsBands)

@@ -2,11 +2,11 @@
 
 #include "common/tamfx/Exception.h"
 #include "resource/Font.h"
-#include "resource/ResourceFaults.h"
 #include "support/DecimalComma.h"
 #include "support/LibraryFaults.h"
 #include "support/PanelTest.h"
 #include "support/Pixels.h"
+#include "support/ResourceFaults.h"
 #include "support/SystemFaults.h"
 
 #include <QColor>

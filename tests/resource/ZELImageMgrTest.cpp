@@ -1,8 +1,8 @@
 #include "resource/ZELImageMgr.h"
 
-#include "resource/ResourceFaults.h"
 #include "support/PanelTest.h"
 #include "support/Pixels.h"
+#include "support/ResourceFaults.h"
 #include "support/SystemFaults.h"
 
 #include <QBuffer>

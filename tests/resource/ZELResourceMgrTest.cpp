@@ -4,8 +4,8 @@
 #include "common/tamfx/Exception.h"
 #include "common/tamfx/FileProperty.h"
 #include "resource/Font.h"
-#include "resource/ResourceFaults.h"
 #include "support/PanelTest.h"
+#include "support/ResourceFaults.h"
 #include "support/SystemFaults.h"
 
 #include <QColor>

@@ -1,9 +1,9 @@
 #include "resource/ZELStringMgr.h"
 
 #include "common/tamfx/Exception.h"
-#include "resource/ResourceFaults.h"
 #include "support/LibraryFaults.h"
 #include "support/PanelTest.h"
+#include "support/ResourceFaults.h"
 #include "support/SystemFaults.h"
 
 #include <QDir>

@@ -135,6 +135,36 @@ TEST_F(ZELPopupWindowRunTest, execDropsThePressesOfThePageBeneath)
     EXPECT_EQ(panel().takeTypes(), std::vector<int>{});
 }
 
+TEST_F(ZELPopupWindowRunTest, aDialogThatGoesInActivatingRunsByNeitherForm)
+{
+    class Short : public ZELPopupWindow
+    {
+    public:
+        using ZELPopupWindow::ZELPopupWindow;
+        void activating() override { delete this; }
+    };
+    for (const bool waits : {false, true}) {
+        writeLayout("ask", "<layout><Components/></layout>");
+        expectNoBackgroundLines();
+        auto* const shown = new Short("ask", nullptr);
+        shown->m_nPopupResult = 5;
+        EXPECT_EQ(waits ? shown->showAndWait() : shown->exec(), -1) << waits;
+    }
+}
+
+TEST_F(ZELPopupWindowRunTest, aDialogThatHasNothingToDoAtFirstRunsTheSame)
+{
+    writeLayout("ask", "<layout><Components/></layout>");
+    expectNoBackgroundLines();
+    ZELPopupWindow shown("ask", nullptr);
+    inTheLoop([&] {
+        shown.m_nPopupResult = 2;
+        inTheLoop([&] { shown.accept(); }); // behind what is queued already
+    });
+    EXPECT_EQ(shown.exec(), 2);
+    EXPECT_EQ(popups(), 1);
+}
+
 // ---- showAndWait
 
 TEST_F(ZELPopupWindowRunTest, showAndWaitSoundsActivatesShowsAndPostsNothing)

@@ -145,7 +145,10 @@ Node* XmlTreeBuilder::Filler::fill() const
 bool XmlTreeBuilder::build(const std::string& strPath, XmlDocument& document)
 {
     Filler filler;
-    return XmlParser::parseFile(strPath, filler) && fill(filler, document);
+    if (!XmlParser::parseFile(strPath, filler))
+        return false;
+    fill(filler, document);
+    return true;
 }
 
 bool XmlTreeBuilder::build(const std::string& strPath, XmlColumn column, XmlDocument& document)
@@ -154,17 +157,17 @@ bool XmlTreeBuilder::build(const std::string& strPath, XmlColumn column, XmlDocu
         return false;
     Filler filler;
     column.handOver(filler);
-    return fill(filler, document);
+    fill(filler, document);
+    return true;
 }
 
-bool XmlTreeBuilder::fill(const Filler& filler, XmlDocument& document)
+void XmlTreeBuilder::fill(const Filler& filler, XmlDocument& document)
 {
     document.m_pNodes = filler.fill();
     document.m_nNodes = filler.count();
     Node& parent = document;
     parent.m_children.pBlock = document.m_pNodes;
     parent.m_nChildren = 1;
-    return true;
 }
 
 } // namespace TAMFx::Common::Xml

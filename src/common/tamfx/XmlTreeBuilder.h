@@ -23,7 +23,7 @@ public:
 private:
     class Filler;
 
-    static bool fill(const Filler& filler, XmlDocument& document);
+    static void fill(const Filler& filler, XmlDocument& document);
 };
 
 } // namespace TAMFx::Common::Xml

@@ -49,6 +49,17 @@ TEST(TableTest, FindsTheFirstOfTwoColumnsOfOneName)
     EXPECT_EQ(table.getColumnIndex("id"), 0);
 }
 
+TEST(TableTest, TakesAColumnWithoutAName)
+{
+    Table table;
+    table.addColumn(nullptr);
+    table.addColumn("id");
+    ASSERT_EQ(table.getColumnCount(), 2);
+    EXPECT_STREQ(table.getColumnName(0), "");
+    EXPECT_EQ(table.getColumnIndex(""), 0);
+    EXPECT_EQ(table.getColumnIndex("id"), 1);
+}
+
 TEST(TableTest, GivesCellsByPositionAndByName)
 {
     const Table table = twoByTwo();

@@ -3,6 +3,7 @@
 
 #include "common/tamfx/XmlDocument.h"
 
+#include "common/tamfx/FileFaults.h"
 #include "common/tamfx/HeapCount.h"
 #include "common/tamfx/NodeList.h"
 #include "common/tamfx/TestFolder.h"
@@ -14,10 +15,12 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
+#include <new>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
+using PANFx::Testing::FileFaults;
 using PANFx::Testing::HeapCount;
 using PANFx::Testing::SystemCall;
 using PANFx::Testing::SystemFaults;
@@ -447,6 +450,20 @@ TEST_F(XmlDocumentTest, GivesItsMemoryBackWhenItDies)
     EXPECT_EQ(HeapCount::pieces(), pieces);
 }
 
+TEST_F(XmlDocumentTest, GivesTheMemoryOfAddedAttributesBackToo)
+{
+    const std::string path = m_folder.write("page.resource", page);
+    const auto pieces = HeapCount::pieces();
+    {
+        XmlDocument document;
+        document.LoadXMLFile(path.c_str());
+        Node* const base = document.getNodeByName("Base"); // without children added to it
+        base->addAttribute(new Attribute("a", "b"));
+        EXPECT_STREQ(base->getAttributeByName("a")->getValue(), "b");
+    }
+    EXPECT_EQ(HeapCount::pieces(), pieces);
+}
+
 TEST_F(XmlDocumentTest, IsFreedThroughItsBase)
 {
     const std::string path = m_folder.write("page.resource", page);
@@ -535,6 +552,19 @@ TEST_F(XmlDocumentTest, AnswersAFileOfMoreThan256MegabytesWithFalse)
     EXPECT_FALSE(m_document.LoadXMLFile(path.c_str()));
     std::filesystem::resize_file(path, 4);
     EXPECT_TRUE(m_document.LoadXMLFile(path.c_str()));
+}
+
+TEST_F(XmlDocumentTest, AnswersAFileThatTheMemoryCannotHoldWithFalse)
+{
+    load(page);
+    {
+        FileFaults faults;
+        faults.onRead = []() -> int { throw std::bad_alloc(); };
+        EXPECT_FALSE(m_document.LoadXMLFile(m_folder.path("page.resource").c_str()));
+    }
+    expectEmpty();
+    load(page);
+    EXPECT_NE(m_document.getNodeByName("Base"), nullptr) << "a smaller one can be read";
 }
 
 TEST_F(XmlDocumentTest, ReadsAFileWhoseSizeTheSystemDoesNotTell)

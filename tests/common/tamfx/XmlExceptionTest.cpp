@@ -263,6 +263,7 @@ TEST(XmlExceptionTest, TellsThePlaceBehindBrokenUtf16Too)
     // lone surrogates have no character: the parser leaves them out, and so does the count
     EXPECT_EQ(placeOf(utf16(u"<a>\xDC00\xD800 \n</a>\n<b/>"s, false)), "line 3, column 1");
     EXPECT_EQ(placeOf(utf16(u"<a/>\n<b/>"s, false) + "x"), "line 2, column 1");
+    EXPECT_EQ(placeOf(utf16(u"<a/>\n<b/>\xD83D"s, false)), "line 2, column 1");
 }
 
 TEST(XmlExceptionTest, IsThrownForAFileCutAtAnyByte)

@@ -250,6 +250,8 @@ TEST_F(ZELRadioGroupTest, aDeletedButtonIsNotTouchedAgain)
     group->setButtonSelect(1);
     group->setButtonSelect("b");
     EXPECT_EQ(group->m_strSelected, "b");
+    group->setButtonSelect("c");
+    EXPECT_TRUE(c->m_bChecked);
     group->setDimMode(true, true);
     group->setDimMode(false, false);
     group->setSelectClear();
@@ -265,6 +267,19 @@ TEST_F(ZELRadioGroupTest, aDeletedButtonIsNotTouchedAgain)
     group->addButton();
     EXPECT_EQ(group->m_buttons.getCount(), 2);
     EXPECT_EQ(group->getSelectedButton(), c);
+}
+
+TEST_F(ZELRadioGroupTest, anEmptyEntryOfADerivedClassIsPassedOver)
+{
+    Group* const group = abc();
+    group->m_buttons.AddObj("none", static_cast<TAMFx::Data::Object*>(nullptr));
+    ASSERT_EQ(group->m_buttons.getCount(), 4);
+    group->setButtonSelect("b");
+    EXPECT_EQ(checked(group), "b");
+    group->setButtonSelect(3);
+    EXPECT_EQ(checked(group), "b");
+    group->setDimMode(true, true);
+    EXPECT_EQ(checked(group), "");
 }
 
 TEST_F(ZELRadioGroupTest, whatLiesWhereADeletedButtonWasIsNotTouched)

@@ -48,6 +48,25 @@ TEST_F(ZELTabEventTest, aTouchOnTheCurrentTabGivesTheClickAlone)
     EXPECT_EQ(tab->shown(), "b0 p0");
 }
 
+TEST_F(ZELTabEventTest, withoutAParentThePageChangesAndQtTakesTheTouch)
+{
+    class Own : public Tab
+    {
+    public:
+        using Tab::Tab;
+        Types wentOn;
+
+    protected:
+        void customEvent(QEvent* event) override { wentOn.push_back(event->type()); }
+    };
+    Own tab(nullptr, "tab", "ZELTab", element(tabOf(pairs(2))));
+    log().expectError("[eventHandler] event 1561 of tab has no target", 1, "EventTranslator");
+    ZELEvent touch(EVENT_TAB_DOWN, buttonOf(&tab, "b1"), "b1");
+    EXPECT_TRUE(tab.event(&touch));
+    EXPECT_EQ(tab.shown(), "b1 p1");
+    EXPECT_EQ(tab.wentOn, Types{EVENT_TAB_DOWN});
+}
+
 TEST_F(ZELTabEventTest, everyTabIsReachedAndAllComeBack)
 {
     auto* const tab = makeTab(pairs(4));

@@ -170,6 +170,17 @@ TEST_F(ZELTabTest, addTabPageBeginsAnewAndHidesAllPages)
     EXPECT_EQ(tab->m_nCurPage, 1);
 }
 
+TEST_F(ZELTabTest, aTabWhosePageAnApplicationDeletedIsToldAndNotShown)
+{
+    auto* const tab = makeTab(pairs(2));
+    delete tab->getSubComponent("p1")->getQWidget();
+    log().expectError("[showTab] pCompTabBtn == NULL || pCompTabPage == NULL", 1, "ZELTab");
+    tab->setPage(1);
+    EXPECT_FALSE(buttonOf(tab, "b1")->m_bChecked);
+    EXPECT_FALSE(buttonOf(tab, "b0")->m_bChecked);
+    EXPECT_TRUE(tab->getSubComponent("p0")->getQWidget()->isHidden());
+}
+
 TEST_F(ZELTabTest, addTabPageStopsAtAPartThatAnApplicationDeleted)
 {
     auto* const noPage = makeTab(pairs(2));

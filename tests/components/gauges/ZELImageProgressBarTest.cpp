@@ -316,6 +316,20 @@ TEST_F(ZELImageProgressBarTest, withoutTheMiddleTheCapsAreDrawnAllTheSame)
     EXPECT_EQ(differing, fill - made->m_pStartPixmap->width() - made->m_pEndPixmap->width());
 }
 
+TEST_F(ZELImageProgressBarTest, oneCapThatIsMissingLeavesNoFill)
+{
+    for (const std::string missing : {"start.png", "end.png"}) {
+        auto* const made = whole();
+        made->SetPercent(50);
+        const auto unless = [&missing](const char* name) { return name == missing ? "no" : name; };
+        made->setImage("back.png", unless("start.png"), "mid.png", unless("end.png"));
+        log().expectError("[paintEvent] bar has no pictures for the fill", 1,
+                          "ZELImageProgressBar");
+        EXPECT_TRUE(Pixels::same(Pixels::grab(made), expected({}, -1, -1))) << missing;
+        delete made;
+    }
+}
+
 TEST_F(ZELImageProgressBarTest, insetsWiderThanTheBarLeaveNoFill)
 {
     auto* const made = bar(images() + "<offset x='150' y='3'/>");

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <climits>
+#include <utility>
 
 using namespace PANFx;
 using namespace PANFx::Testing;
@@ -347,6 +348,16 @@ TYPED_TEST(ZELRangeTest, withoutButtonsTheSoundIsTold)
     range->setEnable(false);
     range->setEnable(true);
     EXPECT_EQ(range->m_nStep, 0);
+}
+
+TYPED_TEST(ZELRangeTest, withOneButtonTheSoundIsToldAndStays)
+{
+    auto* const range = this->makeRange();
+    delete std::exchange(range->m_pDownBtn, nullptr);
+    this->log().expectError("[setSoundMode] rng has not both buttons", 1, "ZELRange");
+    range->setSoundMode(false);
+    Touch::tap(range->m_pUpBtn);
+    EXPECT_EQ(this->touches(), 1);
 }
 
 TYPED_TEST(ZELRangeTest, deletesItsButtonsAndThenTheExtraPart)

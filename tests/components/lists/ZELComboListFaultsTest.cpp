@@ -1,11 +1,29 @@
 #include "components/lists/ComboTest.h"
 
+#include <functional>
+#include <stdexcept>
+
 using namespace PANFx;
 using namespace PANFx::Testing;
 
 namespace {
 
 const std::string buttonIsNull = "[D] [ZELComboList::draw] button is NULL";
+
+// an application's row that does something of its own when it is hidden
+class OwnRow : public Components::ZELListItem
+{
+public:
+    using ZELListItem::ZELListItem;
+
+    void hideWindow() override
+    {
+        if (whenHidden)
+            whenHidden();
+    }
+
+    std::function<void()> whenHidden;
+};
 
 class ZELComboListFaultsTest : public ComboTest
 {
@@ -56,6 +74,25 @@ TEST_F(ZELComboListFaultsTest, aRowWithoutAnIdIsSkipped)
     log().startHere();
     list->addItem("a");
     EXPECT_EQ(log().count("[D] [ZELComboList::draw] list item ID is NULL", "ZELComboList"), 1);
+}
+
+TEST_F(ZELComboListFaultsTest, whatARowThrowsAtTheEndIsToldAndGoesNoFurther)
+{
+    const std::function<void()> throwLength = [] { throw std::length_error("x"); };
+    const std::function<void()> throwRange = [] { throw std::out_of_range("x"); };
+    const std::function<void()> throwOther = [] { throw 1; };
+    for (const auto& [line, thrower] : {std::pair("length error", throwLength),
+                                        {"out of range error", throwRange},
+                                        {"Exception error", throwOther}}) {
+        Combo* const list = combo();
+        auto* const own = new OwnRow(list, "own", "ZELListItem",
+                                     element(row("own", 0, group("button", cell("text", 0)))));
+        list->m_dqSubComponents.push_back(own);
+        list->addListItem();
+        own->whenHidden = thrower;
+        log().expectError("[~ZELComboList] " + std::string(line), 1, "ZELComboList");
+        delete list;
+    }
 }
 
 TEST_F(ZELComboListFaultsTest, anItemIndexThatIsNoNumberIsTheFirst)

@@ -1,6 +1,7 @@
 // ListHop and SubComponents are not exported: lists, rows and headers are what tests them.
 
 #include "components/lists/TableTest.h"
+#include "support/LibraryFaults.h"
 
 #include <QPointer>
 
@@ -153,6 +154,27 @@ TEST_F(ZELListTest, theFirstOfTwoHeadersAndOfTwoScrollsCounts)
     List* const list = this->list(group("listheader", header("h1") + header("h2")) +
                                   group("listscroll", scrollElement + second));
     EXPECT_EQ(list->m_pListHeader, list->getSubComponent("h1"));
+    EXPECT_EQ(list->m_pListScroll, list->getSubComponent("scr"));
+}
+
+TEST_F(ZELListTest, aPartThatGoesWhileTheOthersAreMadeIsPassedOver)
+{
+    expectScrollLines();
+    LibraryFaults faults;
+    faults.onCreate = [this](const std::string& keyword, const std::string&) {
+        if (keyword != "listscroll")
+            return;
+        for (QWidget* const widget : panel().findChildren<QWidget*>()) {
+            if (dynamic_cast<ZELListItem*>(widget)) {
+                delete widget;
+                return;
+            }
+        }
+    };
+    List* const list = this->list(rows(1) + group("listscroll", scrollElement));
+    ASSERT_EQ(list->getComponentCount(), 2);
+    EXPECT_EQ(list->getSubComponent("row0"), nullptr);
+    EXPECT_NE(list->m_pListScroll, nullptr);
     EXPECT_EQ(list->m_pListScroll, list->getSubComponent("scr"));
 }
 

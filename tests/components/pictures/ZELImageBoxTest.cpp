@@ -6,6 +6,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QResizeEvent>
 
 #include <syslog.h>
 
@@ -157,6 +158,34 @@ TEST_F(ZELImageBoxTest, aNullElementLaterLeavesPictureAndPlace)
     box->setLayout(element("<b x='9'/>"));
     EXPECT_EQ(box->geometry(), QRect(0, 0, 30, 20));
     EXPECT_EQ(Pixels::count(Pixels::grab(box), Qt::blue), 30 * 20);
+}
+
+TEST_F(ZELImageBoxTest, onTheScreenALayoutGivesItThePicturesSizeBeforeItsPlace)
+{
+    class Box : public OpenBox
+    {
+    public:
+        using OpenBox::OpenBox;
+        std::vector<QSize> sizes;
+
+    protected:
+        void resizeEvent(QResizeEvent* event) override { sizes.push_back(event->size()); }
+    };
+    Box box(&panel(), "b", "ZELImageBox",
+            element("<b file='small.png' x='5' y='6' width='50' height='40'/>"));
+    const std::string large = "<b file='large.png' x='1' y='2' width='60' height='45'/>";
+    const std::string missing = "<b file='nosuch.png' x='1' y='2' width='70' height='45'/>";
+    box.showWindow();
+    EventLoop::deliver();
+    box.sizes.clear();
+    box.setLayout(element(large));
+    EXPECT_EQ(box.sizes, (std::vector<QSize>{{30, 20}, {60, 45}}));
+    EXPECT_EQ(box.geometry(), QRect(1, 2, 60, 45));
+
+    box.sizes.clear();
+    log().expectError("[setImage] m_pBGPixmap == NULL", 1, "ZELImageBox");
+    box.setLayout(element(missing));
+    EXPECT_EQ(box.sizes, (std::vector<QSize>{{70, 45}})) << "there is no picture to take it from";
 }
 
 // ---- changing the picture

@@ -1,4 +1,4 @@
-#include "resource/ResourceFaults.h"
+#include "support/ResourceFaults.h"
 
 #include "common/systemPath.h"
 #include "common/tamfx/ConfigurationManager.h"
