@@ -1,6 +1,7 @@
 #include "support/ResourceFaults.h"
 
 #include "common/systemPath.h"
+#include "common/tamfx/ArrayList.h"
 #include "common/tamfx/ConfigurationManager.h"
 #include "common/tamfx/Node.h"
 #include "common/tamfx/NodeList.h"
@@ -18,6 +19,7 @@
 #define GET_NODE "_ZNK5TAMFx6Common3Xml8NodeList7getNodeEi"
 #define GET_CHILD_NODE "_ZNK5TAMFx6Common3Xml4Node12getChildNodeEi"
 #define OPEN_PROPERTY "_ZN5TAMFx6Config20ConfigurationManager12openPropertyEPKci"
+#define LIST_ENTRY "_ZNK5TAMFx4Data10Collection9ArrayList2AtEi"
 #define SYSTEM_PATH                                                                                \
     "_ZN5PANFx6Common10systemPathERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE"
 
@@ -31,6 +33,7 @@ using TAMFx::Common::Xml::Node;
 using TAMFx::Common::Xml::NodeList;
 using TAMFx::Common::Xml::XmlDocument;
 using TAMFx::Config::ConfigurationManager;
+using TAMFx::Data::Collection::ArrayList;
 using TAMFx::Data::Properties::FileProperty;
 
 ResourceFaults* active = nullptr;
@@ -65,6 +68,7 @@ Node* faults_getNode(const NodeList* list, int index) IN_FRONT_OF(GET_NODE);
 Node* faults_getChildNode(const Node* node, int index) IN_FRONT_OF(GET_CHILD_NODE);
 FileProperty* faults_openProperty(ConfigurationManager* manager, const char* path, int mode)
     IN_FRONT_OF(OPEN_PROPERTY);
+TAMFx::Data::Object* faults_listEntry(const ArrayList* list, int index) IN_FRONT_OF(LIST_ENTRY);
 std::string faults_systemPath(const std::string& path) IN_FRONT_OF(SYSTEM_PATH);
 
 NodeList* faults_getNodeList(const XmlDocument* document, const char* name)
@@ -94,6 +98,13 @@ FileProperty* faults_openProperty(ConfigurationManager* manager, const char* pat
         return active->onOpenProperty(path, mode);
     return next<FileProperty* (*)(ConfigurationManager*, const char*, int)>(OPEN_PROPERTY)(
         manager, path, mode);
+}
+
+TAMFx::Data::Object* faults_listEntry(const ArrayList* list, int index)
+{
+    if (active && active->onListEntry)
+        active->onListEntry(index);
+    return next<TAMFx::Data::Object* (*)(const ArrayList*, int)>(LIST_ENTRY)(list, index);
 }
 
 std::string faults_systemPath(const std::string& path)

@@ -38,6 +38,9 @@ public:
     /** Called instead of opening a configuration file, with its path and mode. */
     std::function<TAMFx::Data::Properties::FileProperty*(const std::string&, int)> onOpenProperty;
 
+    /** Called before an entry of a list is looked up. */
+    std::function<void(int index)> onListEntry;
+
     /** Called before a path is handed to the system, with the instrument's path. */
     std::function<void(const std::string& path)> onPath;
 };
