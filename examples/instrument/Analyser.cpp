@@ -1,11 +1,18 @@
 #include "Analyser.h"
 
+#include "ApplicationEvents.h"
+
+#include "events/ZELErrorEvent.h"
+
+#include <QCoreApplication>
 #include <QString>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
+
+const int stillReadings = 3; // that the oxygen sensor gets along with
 
 std::string number(const Analyser::Channel& channel, double dValue, int nPlaces)
 {
@@ -27,12 +34,20 @@ Analyser::Analyser()
 void Analyser::measure()
 {
     ++m_nTime;
+    m_nStill = m_bStirred ? 0 : m_nStill + 1;
     for (Channel& channel : m_channels) {
         const double dAngle = m_nTime * channel.dPace;
         const double dWave = 0.7 * std::sin(dAngle) + 0.3 * std::sin(2.7 * dAngle + 1);
         std::rotate(channel.readings.begin(), channel.readings.begin() + 1, channel.readings.end());
         channel.readings.back() = channel.dMiddle + channel.dSwing * dWave;
     }
+}
+
+void Analyser::reportFaults(QObject& receiver) const
+{
+    if (m_nStill > stillReadings)
+        QCoreApplication::postEvent(&receiver, new ZELErrorEvent(EVENT_SENSOR_FAULT, still, 'S',
+                                                                 m_channels[oxygenAt].strName));
 }
 
 void Analyser::stepLimit(std::size_t nChannel, int nSteps)
@@ -59,6 +74,11 @@ void Analyser::setFahrenheit(bool bFahrenheit)
 std::string Analyser::text(const Channel& channel, double dValue)
 {
     return number(channel, dValue, channel.nPlaces);
+}
+
+double Analyser::share(double dValue, double dLow, double dHigh)
+{
+    return dLow < dHigh ? std::clamp((dValue - dLow) / (dHigh - dLow), 0.0, 1.0) : 0.5;
 }
 
 std::string Analyser::wholeText(const Channel& channel, double dValue)

@@ -21,3 +21,11 @@ constexpr QEvent::Type EVENT_PRINTED = QEvent::Type(2004);
 
 /// Posted by SamplesPage to itself once a box of its list has been touched, as a ZELEvent.
 constexpr QEvent::Type EVENT_BOX_TOUCHED = QEvent::Type(2005);
+
+/// Posted by Analyser to the page on screen, as a ZELErrorEvent, before each reading that a sensor
+/// cannot be trusted with: the code is an Analyser::Fault, the message the name of the channel.
+constexpr QEvent::Type EVENT_SENSOR_FAULT = QEvent::Type(2006);
+
+/// Posted by LabelReader as a ZELStringEvent: the first text is the code of a label, the second
+/// one the name of the sample, or "" where the label has none.
+constexpr QEvent::Type EVENT_LABEL_READ = QEvent::Type(2007);

@@ -4,6 +4,7 @@
 #include "events/EventNumbers.h"
 #include "events/ZELEvent.h"
 #include "events/ZELListEvent.h"
+#include "events/ZELRangeEvent.h"
 #include "resource/ZELResourceMgr.h"
 
 using PANFx::Components::ZELComponent;
@@ -41,6 +42,13 @@ const ZELListEvent* listEvent(QEvent* pEvent)
     ZELEvent* pReport = ZELEvent::from(pEvent);
     const bool bFits = pReport != nullptr && pReport->getClassType() == "ZELListEvent";
     return bFits ? static_cast<const ZELListEvent*>(pReport) : nullptr;
+}
+
+const ZELRangeEvent* rangeEvent(QEvent* pEvent)
+{
+    ZELEvent* pReport = ZELEvent::from(pEvent);
+    const bool bFits = pReport != nullptr && pReport->getClassType() == "ZELRangeEvent";
+    return bFits ? static_cast<const ZELRangeEvent*>(pReport) : nullptr;
 }
 
 std::string localText(const std::string& strKey)

@@ -8,6 +8,7 @@
 #include <string>
 
 class ZELListEvent;
+class ZELRangeEvent;
 
 /// What pages and dialogs of this instrument do alike with their components.
 
@@ -42,3 +43,6 @@ void showText(PANFx::Components::ZELComponent* pLabel, const std::string& strTex
 
 /// What a list reports with this event, or null for an event of another kind.
 const ZELListEvent* listEvent(QEvent* pEvent);
+
+/// What a range, a pad or a page turner reports with this event, or null for one of another kind.
+const ZELRangeEvent* rangeEvent(QEvent* pEvent);

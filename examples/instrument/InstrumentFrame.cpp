@@ -73,6 +73,7 @@ ZELChildWindow* InstrumentFrame::createChildWindow(std::string strID)
 void InstrumentFrame::setSettings(const Settings& settings)
 {
     m_settings = settings;
+    m_analyser.setStirred(!settings.bStirrerPaused);
     m_pSound->setTouchSound(settings.bTouchSound);
     m_pSound->setVolume(settings.nVolume);
 }
@@ -85,8 +86,12 @@ QDateTime InstrumentFrame::now() const
 void InstrumentFrame::changeLanguage(const std::string& strLocale)
 {
     ZELChildWindow* pCaller = getCurrentWindow();
-    changeLocale(strLocale, pCaller->m_strID);
-    pCaller->deleteLater();
+    changeLocale(strLocale, pCaller != nullptr ? pCaller->m_strID : "");
+    // without a page to go back to, the one on screen is still the caller, which must go
+    if (getCurrentWindow() == pCaller)
+        moveTo(m_strMainWindowID, true, true);
+    if (pCaller != nullptr)
+        pCaller->deleteLater();
     if (m_bRemembersLanguage)
         rememberLanguage(strLocale);
 }
@@ -107,8 +112,10 @@ bool InstrumentFrame::event(QEvent* pEvent)
         return ZELMainFrame::event(pEvent);
     m_analyser.measure();
     watchLimits();
-    if (ZELChildWindow* pPage = getCurrentWindow())
+    if (ZELChildWindow* pPage = getCurrentWindow()) {
+        m_analyser.reportFaults(*pPage);
         QCoreApplication::postEvent(pPage, new ZELEvent(EVENT_READING));
+    }
     return true;
 }
 

@@ -27,8 +27,9 @@ public:
     /// Date and time by the instrument's clock, which the user can set.
     QDateTime now() const;
 
-    /// Switches to another language and goes back one page. Meant to be called by the page on
-    /// screen from its own event(): that page is deleted once it has returned from there.
+    /// Switches to another language and goes back one page, to the first one where there is none
+    /// to go back to. Meant to be called by the page on screen from its own event(): that page is
+    /// deleted once it has returned from there.
     void changeLanguage(const std::string& strLocale);
 
     /// Whether the next start comes up in the language that was chosen last; true at first.

@@ -66,29 +66,35 @@ int intOf(const Table& table, int nRow, int nColumn)
 
 } // namespace
 
+// A question without an answer says nothing about the table: then all stays as it is.
 RecordStore::RecordStore()
 {
-    if (!hasTable())
-        startAnew();
+    Table table;
+    if (!execDBTable("SELECT name FROM sqlite_master WHERE name = 'measurement'", table)) {
+        m_logger.WriteError("[%s] cannot look for the measurements", "RecordStore");
+        return;
+    }
+    if (table.getRowCount() == 0) {
+        makeTable();
+        insert(firstRecords(QDate::currentDate()));
+    }
 }
 
-bool RecordStore::hasTable()
+void RecordStore::makeTable()
 {
-    Table table;
-    execDBTable("SELECT name FROM sqlite_master WHERE name = 'measurement'", table);
-    return table.getRowCount() > 0;
+    execDB("CREATE TABLE IF NOT EXISTS measurement (id INTEGER PRIMARY KEY, time TEXT, "
+           "sample TEXT, ph REAL, cond REAL, oxygen REAL, temp REAL)");
 }
 
 void RecordStore::startAnew()
 {
-    execDB("CREATE TABLE IF NOT EXISTS measurement (id INTEGER PRIMARY KEY, time TEXT, "
-           "sample TEXT, ph REAL, cond REAL, oxygen REAL, temp REAL)");
+    makeTable();
     execDB("DELETE FROM measurement");
     insert(firstRecords(QDate::currentDate()));
 }
 
 // One statement is one opening of the database and one transaction, whatever it stores.
-void RecordStore::insert(const std::vector<Record>& records)
+bool RecordStore::insert(const std::vector<Record>& records)
 {
     const auto row = [](const Record& record) {
         return "(" + quoted(record.strTime) + ", " + quoted(record.strSample) + ", " +
@@ -96,26 +102,30 @@ void RecordStore::insert(const std::vector<Record>& records)
     };
     const std::string strStatement =
         std::string("INSERT INTO measurement (") + columns + ") VALUES " + joined(records, row);
-    execDBwithLock(strStatement.c_str());
+    return execDBwithLock(strStatement.c_str()) > 0;
 }
 
-void RecordStore::store(const QDateTime& time, std::string strSample,
+bool RecordStore::store(const QDateTime& time, std::string strSample,
                         const std::array<double, 4>& values)
 {
     Record record;
     record.strTime = time.toString(QStringLiteral("yyyy-MM-dd HH:mm")).toStdString();
     record.strSample = strSample.empty() ? nextNumber() : std::move(strSample);
     record.values = values;
-    insert({record});
+    return !record.strSample.empty() && insert({record});
 }
 
+// Numbers have four digits and, behind 9999, more. What is longer than any count has been typed.
 std::string RecordStore::nextNumber()
 {
     Table table;
-    execDBTable("SELECT max(CAST(substr(sample, 3) AS INTEGER)) FROM measurement "
-                "WHERE sample GLOB 'W-[0-9][0-9][0-9][0-9]'",
-                table);
-    return QString::asprintf("W-%04d", intOf(table, 0, 0) + 1).toStdString();
+    if (!execDBTable("SELECT max(CAST(substr(sample, 3) AS INTEGER)) FROM measurement "
+                     "WHERE sample GLOB 'W-[0-9][0-9][0-9][0-9]*' "
+                     "AND substr(sample, 3) NOT GLOB '*[^0-9]*' AND length(sample) <= 12",
+                     table))
+        return "";
+    const long long nLast = QString::fromUtf8(table.getValue(0, 0)).toLongLong();
+    return QString::asprintf("W-%04lld", nLast + 1).toStdString();
 }
 
 int RecordStore::count(const std::vector<std::string>& samples)
@@ -180,10 +190,12 @@ std::vector<std::string> RecordStore::recentSamples(int nCount)
     return names;
 }
 
-void RecordStore::remove(const std::vector<Record>& records)
+bool RecordStore::remove(const std::vector<Record>& records)
 {
+    if (records.empty())
+        return true;
     const auto id = [](const Record& record) { return std::to_string(record.nID); };
     const std::string strStatement =
         "DELETE FROM measurement WHERE id IN (" + joined(records, id) + ")";
-    execDBwithLock(strStatement.c_str());
+    return execDBwithLock(strStatement.c_str()) > 0;
 }

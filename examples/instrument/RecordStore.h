@@ -12,11 +12,13 @@
 class RecordStore : private PANFx::Windows::Dao
 {
 public:
-    /// Makes and fills the table if there is none.
+    /// Makes and fills the table if there is none. When the database doesn't tell, nothing is
+    /// touched.
     RecordStore();
 
-    /// Stores a measurement; one without a name gets the next number in its place.
-    void store(const QDateTime& time, std::string strSample, const std::array<double, 4>& values);
+    /// Stores a measurement; one without a name gets the next number in its place. False if the
+    /// database refuses.
+    bool store(const QDateTime& time, std::string strSample, const std::array<double, 4>& values);
 
     int count(const std::vector<std::string>& samples);
 
@@ -32,13 +34,16 @@ public:
     /// The names that were used last, the last one first.
     std::vector<std::string> recentSamples(int nCount);
 
-    void remove(const std::vector<Record>& records);
+    /// Removes measurements. False if the database refuses, or has none of them.
+    bool remove(const std::vector<Record>& records);
 
     /// Removes everything and stores what an instrument has on its first start.
     void startAnew();
 
 private:
-    bool hasTable();
-    void insert(const std::vector<Record>& records);
+    void makeTable();
+    bool insert(const std::vector<Record>& records);
+
+    /// The number of the next sample without a name, "W-0149", or "" if the database refuses.
     std::string nextNumber();
 };

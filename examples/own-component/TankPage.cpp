@@ -33,6 +33,8 @@ bool TankPage::event(QEvent* pEvent)
 void TankPage::showLevel(int nPercent)
 {
     m_pTank->setLevel(nPercent);
-    if (auto* const label = dynamic_cast<ZELLabel*>(getSubComponent("level")))
-        label->setTitle(std::to_string(m_pTank->level()) + " %");
+    // the type string tells what a component is
+    auto* const label = getSubComponent("level");
+    if (label && label->m_strType == "ZELLabel")
+        static_cast<ZELLabel*>(label)->setTitle(std::to_string(m_pTank->level()) + " %");
 }

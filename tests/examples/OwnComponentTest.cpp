@@ -20,6 +20,10 @@ protected:
     OwnComponentTest()
         : ExampleTest("own-component")
     {
+    }
+
+    void bringUp()
+    {
         expectNoBackgroundLines();
         frame().addPage("tank", [this](const std::string&) { return new TankPage(&frame()); });
         frame().moveTo("tank");
@@ -34,6 +38,7 @@ protected:
 
 TEST_F(OwnComponentTest, liesOnThePageAsItsElementSays)
 {
+    bringUp();
     ASSERT_NE(meter, nullptr);
     EXPECT_EQ(meter->geometry(), QRect(340, 100, 120, 280));
     EXPECT_TRUE(meter->isVisible());
@@ -43,6 +48,7 @@ TEST_F(OwnComponentTest, liesOnThePageAsItsElementSays)
 
 TEST_F(OwnComponentTest, aTouchReachesThePageWhichLetsTenPercentOut)
 {
+    bringUp();
     ASSERT_NE(meter, nullptr);
     for (int touches = 0; touches < 5; ++touches) {
         Touch::tapWindow(meter);
@@ -53,6 +59,22 @@ TEST_F(OwnComponentTest, aTouchReachesThePageWhichLetsTenPercentOut)
 }
 
 TEST_F(OwnComponentTest, aPageWithoutItsSectionWritesALineAndGoesOn)
+{
+    const std::string section = "<Own>";
+    std::string layout = readFile(resources + "layout/tank.resource");
+    const std::size_t begin = layout.find(section);
+    const std::size_t end = layout.find("</Own>");
+    ASSERT_NE(begin, std::string::npos);
+    ASSERT_NE(end, std::string::npos);
+    writeLayout("tank", layout.erase(begin, end + section.size() + 1 - begin));
+    log().expectError("[setLayout] tank has no element");
+    bringUp();
+    ASSERT_NE(meter, nullptr);
+    EXPECT_EQ(meter->level(), 70);
+    EXPECT_TRUE(page->isVisible());
+}
+
+TEST_F(OwnComponentTest, withoutAnElementALevelIsStillHeldBetweenItsEnds)
 {
     log().expectError("[setLayout] lonely has no element");
     LevelMeter lonely(nullptr, "lonely", nullptr);

@@ -14,17 +14,20 @@ NUMBERS = (
     "constexpr QEvent::Type EVENT_TAB_DOWN = QEvent::Type(1561); ///< as EVENT_OTHER\n"
 )
 LAYOUT = "<Layout><Components><list><some><label><one/></label></some></list></Components></Layout>"
-SOURCE = "if (type == EVENT_TIMER || type == EVENT_TAB_DOWN)\n"
+SOURCE = "if (type == EVENT_TIMER || type == EVENT_TAB_DOWN)\n    post(new ZELEvent(type));\n"
+EVENT = "class ZELForward;\n\nclass QTPANFX_EXPORT ZELEvent : public QEvent\n{\n};\n"
 
 
 class Example(unittest.TestCase):
-    def run_on(self, layout=LAYOUT, source=SOURCE, table=TABLE):
+    def run_on(self, layout=LAYOUT, source=SOURCE, table=TABLE, event=EVENT, tour=""):
         tree = {
             "src/components/ComponentTable.cpp": table,
             "src/events/EventNumbers.h": NUMBERS,
+            "src/events/ZELEvent.h": event,
             "examples/instrument/rootfs/layout/home.resource": layout,
             "examples/instrument/rootfs/StringTable.Resource": "no layout",
             "examples/instrument/pages/HomePage.cpp": source,
+            "examples/instrument/tour/Tour.cpp": tour,
         }
         with tempfile.TemporaryDirectory() as root:
             for name, text in tree.items():
@@ -45,7 +48,7 @@ class Example(unittest.TestCase):
     def test_an_example_that_shows_all_is_fine(self):
         code, out = self.run_on()
         self.assertEqual(code, 0, out)
-        self.assertIn("2 keywords, 2 event numbers, 0 not shown", out)
+        self.assertIn("2 keywords, 2 event numbers, 1 event classes, 0 not shown", out)
 
     def test_a_keyword_without_a_component_is_found(self):
         layout = LAYOUT.replace("list>", "label>")
@@ -66,6 +69,24 @@ class Example(unittest.TestCase):
     def test_an_event_with_a_longer_name_is_another_one(self):
         source = "EVENT_TAB_DOWN EVENT_TIMER_LATE"
         self.assert_fault("no source of instrument names EVENT_TIMER", source=source)
+
+    def test_a_class_that_is_not_named_is_found(self):
+        source = SOURCE.replace("new ZELEvent(", "new ZELOtherEvent(")
+        self.assert_fault("events/ZELEvent.h: no source of instrument names ZELEvent", source=source)
+
+    def test_an_include_and_a_declaration_name_no_class(self):
+        source = '#include "events/ZELEvent.h"\nclass ZELEvent;\nEVENT_TIMER EVENT_TAB_DOWN'
+        self.assert_fault("no source of instrument names ZELEvent", source=source)
+
+    def test_what_the_tour_alone_names_is_not_shown(self):
+        source = SOURCE.replace("EVENT_TIMER", "type")
+        self.assert_fault("names EVENT_TIMER", source=source, tour="EVENT_TIMER")
+        source = SOURCE.replace("ZELEvent", "QEvent")
+        self.assert_fault("names ZELEvent", source=source, tour="new ZELEvent(type);")
+
+    def test_no_class_is_no_success(self):
+        code, out = self.run_on(event="class ZELEvent;\n")
+        self.assertNotEqual(code, 0, out)
 
     def test_an_empty_table_is_no_success(self):
         code, out = self.run_on(table="")

@@ -4,10 +4,12 @@
 #include "Calendar.h"
 #include "InstrumentFrame.h"
 #include "dialogs/PictureDialog.h"
+#include "dialogs/QuestionDialog.h"
 
 #include "common/systemPath.h"
 #include "components/buttons/ZELImageButton.h"
 #include "print/Capture.h"
+#include "resource/SoundFactory.h"
 
 #include <QFile>
 
@@ -15,6 +17,7 @@
 
 using PANFx::Components::ZELComponent;
 using PANFx::Components::ZELImageButton;
+using PANFx::Resource::SoundFactory;
 
 InstrumentPage::InstrumentPage(const std::string& strID, InstrumentFrame* pFrame)
     : ZELChildWindow(strID, pFrame, "")
@@ -92,6 +95,16 @@ Analyser& InstrumentPage::analyser()
 void InstrumentPage::setText(const std::string& strLabel, const std::string& strText)
 {
     showText(findComponent(m_dqSubComponents, strLabel), strText);
+}
+
+bool InstrumentPage::tryToChange(const std::string& strFailure, const std::function<bool()>& change)
+{
+    while (!change()) {
+        SoundFactory::getInstance()->playWarningSound();
+        if (QuestionDialog(m_pFrame, strFailure, "@try_again").exec() != QuestionDialog::yes)
+            return false;
+    }
+    return true;
 }
 
 void InstrumentPage::setDimmed(const std::string& strButton, bool bDimmed)

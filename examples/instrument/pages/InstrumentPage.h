@@ -6,6 +6,9 @@
 
 #include <QDate>
 
+#include <functional>
+#include <string>
+
 class Analyser;
 class InstrumentFrame;
 
@@ -42,6 +45,11 @@ protected:
     }
 
     void setText(const std::string& strLabel, const std::string& strText);
+
+    /// Changes what is stored. As long as that fails, the user is warned and asked whether to try
+    /// once more. False when the answer is no.
+    /// \param strFailure key of the text that tells what has failed
+    bool tryToChange(const std::string& strFailure, const std::function<bool()>& change);
 
     /// Switches a button off or on again: in dim mode it shows its third picture and style.
     void setDimmed(const std::string& strButton, bool bDimmed);

@@ -9,6 +9,7 @@
 #include "components/pictures/ZELPieImageBox.h"
 #include "components/text/ZELLabel.h"
 #include "events/EventNumbers.h"
+#include "events/ZELErrorEvent.h"
 #include "resource/SoundFactory.h"
 
 #include <algorithm>
@@ -27,6 +28,11 @@ const int holdTime = 5;     // readings
 const int meanLength = 5;   // readings of which a mean is taken
 const int fastSteps = 10;   // of the limit, at each tick of a button that is held for long
 
+std::string faultText(unsigned nCode)
+{
+    return localText(nCode == Analyser::still ? "@fault.still" : "@fault");
+}
+
 } // namespace
 
 MeasurePage::MeasurePage(const std::string& strID, InstrumentFrame* pFrame)
@@ -43,6 +49,8 @@ void MeasurePage::activating()
     m_nHeld = 0;
     m_bStepped = false;
     m_bAveraging = false;
+    m_bFaultReported = false;
+    m_strFaulty.clear();
     InstrumentPage::activating();
 }
 
@@ -67,6 +75,8 @@ bool MeasurePage::event(QEvent* pEvent)
         save();
     } else if (strID == "mean") {
         startMean();
+    } else if (pEvent->type() == EVENT_SENSOR_FAULT) {
+        takeFault(static_cast<ZELErrorEvent&>(*pEvent)); // its number tells the class
     } else if (!choose(strID)) {
         if (pEvent->type() == EVENT_READING)
             takeReading();
@@ -100,8 +110,7 @@ void MeasurePage::save()
     Values values = {};
     for (std::size_t n = 0; n < values.size(); ++n)
         values[n] = m_shown[n].readings.back();
-    store(values);
-    if (m_pFrame->settings().bAutoHold)
+    if (store(values) && m_pFrame->settings().bAutoHold)
         m_nHeld = holdTime;
     showValues();
 }
@@ -114,9 +123,23 @@ void MeasurePage::startMean()
     showValues();
 }
 
+// A fault is reported before each of its readings, so it is over with the first one without.
+void MeasurePage::takeFault(const ZELErrorEvent& fault)
+{
+    if (m_strFaulty.empty())
+        SoundFactory::getInstance()->playWarningSound();
+    m_strFaulty = fault.m_strMessage;
+    m_strFault = faultText(fault.m_nCode);
+    m_bFaultReported = true;
+    m_bAveraging = false; // there is no mean of such readings
+}
+
 // The last reading of a mean stores it.
 void MeasurePage::takeReading()
 {
+    if (!m_bFaultReported)
+        m_strFaulty.clear();
+    m_bFaultReported = false;
     m_nHeld = std::max(0, m_nHeld - 1);
     if (!m_bAveraging)
         return;
@@ -130,14 +153,19 @@ void MeasurePage::takeReading()
     store(m_sums);
 }
 
-void MeasurePage::store(const Values& values)
+// Name and code stay where they are until the measurement is stored under them.
+bool MeasurePage::store(const Values& values)
 {
-    m_pFrame->records().store(m_pFrame->now(), sampleName(), values);
+    const QDateTime time = m_pFrame->now();
+    const auto store = [&] { return m_pFrame->records().store(time, sampleName(), values); };
+    if (!tryToChange("@store.failed", store))
+        return false;
     Settings settings = m_pFrame->settings();
     settings.strSampleName.clear();
     settings.strSampleCode.clear();
     m_pFrame->setSettings(settings);
     SoundFactory::getInstance()->playCompleteSound();
+    return true;
 }
 
 std::string MeasurePage::sampleName() const
@@ -160,7 +188,7 @@ void MeasurePage::showValues()
     InstrumentPage::showValues();
     if (m_nHeld == 0)
         m_shown = analyser().channels();
-    setDimmed("save", m_nHeld > 0 || m_bAveraging);
+    setDimmed("save", m_nHeld > 0 || m_bAveraging || !m_strFaulty.empty());
     showMean();
     showSample();
     showButtons();
@@ -195,7 +223,7 @@ void MeasurePage::showButtons()
 
 void MeasurePage::showMean()
 {
-    setDimmed("mean", m_bAveraging);
+    setDimmed("mean", m_bAveraging || !m_strFaulty.empty());
     if (auto* pProgress = component<ZELRoundProgressBar>("mean.progress", "ZELRoundProgress"))
         pProgress->SetPercent(m_bAveraging ? 100 * m_nTaken / meanLength : 0);
 }
@@ -203,11 +231,11 @@ void MeasurePage::showMean()
 void MeasurePage::showGauge(const Analyser::Channel& channel)
 {
     const double dReading = channel.readings.back();
-    const double dShare = (dReading - channel.dLow) / (channel.dHigh - channel.dLow);
+    const double dShare = Analyser::share(dReading, channel.dLow, channel.dHigh);
     if (auto* pGauge = component<ZELPieImageBox>("gauge", "ZELPieImageBox")) {
         pGauge->setImage("ring_" + channel.strName + ".png");
         // the angle is what the box hides of its ring
-        pGauge->SetAngle(360 - static_cast<int>(360 * std::clamp(dShare, 0.0, 1.0)));
+        pGauge->SetAngle(360 - static_cast<int>(360 * dShare));
     }
     setText("name", localText("@" + channel.strName));
     setText("value", Analyser::text(channel, dReading));
@@ -220,11 +248,13 @@ void MeasurePage::showState(const Analyser::Channel& channel)
 {
     const double dLimit = analyser().channels()[m_nChannel].dLimit;
     const bool bAbove = channel.readings.back() > dLimit;
+    const bool bFaulty = channel.strName == m_strFaulty;
     for (const char* pszLabel : {"value", "state"}) {
         if (auto* pLabel = component<ZELLabel>(pszLabel, "ZELLabel"))
-            pLabel->setFontStyle(bAbove ? 1 : 0);
+            pLabel->setFontStyle(bAbove || bFaulty ? 1 : 0);
     }
-    setText("state", bAbove         ? localText("@above")
+    setText("state", bFaulty        ? m_strFault
+                     : bAbove       ? localText("@above")
                      : m_bAveraging ? localText("@averaging")
                      : m_nHeld > 0  ? localText("@held")
                                     : "");
@@ -245,9 +275,9 @@ void MeasurePage::showTrend(const Analyser::Channel& channel)
     const int nHeight = pChart->height() - 2 * chartMargin;
     for (int i = 0; i < Analyser::trendLength; ++i) {
         const double dReading = channel.readings[static_cast<std::size_t>(i)];
-        const double dShare = (*pHigh - dReading) / (*pHigh - *pLow);
+        const double dShare = Analyser::share(dReading, *pLow, *pHigh);
         pChart->m_nPointX[i] = chartMargin + i * nWidth / (Analyser::trendLength - 1);
-        pChart->m_nPointY[i] = chartMargin + static_cast<int>(dShare * nHeight);
+        pChart->m_nPointY[i] = chartMargin + static_cast<int>((1 - dShare) * nHeight);
     }
     pChart->update();
 }

@@ -6,6 +6,8 @@
 #include <array>
 #include <vector>
 
+class ZELErrorEvent;
+
 /// Live readings: one channel large, with its gauge, trend and upper limit; the buttons at the
 /// bottom choose another.
 class MeasurePage : public InstrumentPage
@@ -27,7 +29,8 @@ private:
     void save();
     void startMean();
     void takeReading();
-    void store(const Values& values);
+    void takeFault(const ZELErrorEvent& fault);
+    bool store(const Values& values);
 
     /// What the next measurement is called: the name typed, the code scanned, or "".
     std::string sampleName() const;
@@ -46,5 +49,8 @@ private:
     int m_nTaken = 0;                       ///< how many these are
     bool m_bAveraging = false;              ///< a mean is being taken
     int m_nHeld = 0;                        ///< readings for which those on the page stand still
+    std::string m_strFaulty;                ///< channel whose sensor is at fault, or ""
+    std::string m_strFault;                 ///< what is wrong with it, in words
+    bool m_bFaultReported = false;          ///< since the last reading
     bool m_bStepped = false;                ///< the button that is held has stepped already
 };

@@ -221,7 +221,8 @@ void ResultsPage::askToClear()
     QuestionDialog dialog(m_pFrame, strTitle, "@clear.note");
     if (dialog.exec() != QuestionDialog::yes)
         return;
-    m_pFrame->records().remove(records);
+    if (!tryToChange("@clear.failed", [&] { return m_pFrame->records().remove(records); }))
+        return;
     m_selected.clear();
     fillFilter();
     setQuery(query());

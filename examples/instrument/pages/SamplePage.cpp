@@ -1,9 +1,11 @@
 #include "pages/SamplePage.h"
 
+#include "ApplicationEvents.h"
 #include "InstrumentFrame.h"
 
 #include "components/lists/ZELComboList.h"
 #include "components/text/ZELLineEdit.h"
+#include "events/ZELStringEvent.h"
 #include "resource/SoundFactory.h"
 
 #include <QKeyEvent>
@@ -31,6 +33,7 @@ SamplePage::SamplePage(const std::string& strID, InstrumentFrame* pFrame)
     , m_pName(component<ZELLineEdit>("name", "ZELLineEdit"))
     , m_pCode(component<ZELLineEdit>("barcode", "ZELLineEdit"))
     , m_recent(component<ZELComboList>("recent_names", "ZELComboList"))
+    , m_reader(*this)
 {
     if (auto* pRecent = component<ZELComboList>("recent_names", "ZELComboList"))
         pRecent->setLineEdit(m_pName);
@@ -45,11 +48,7 @@ void SamplePage::activating()
     const Settings& settings = m_pFrame->settings();
     if (m_pName != nullptr)
         m_pName->setText(QString::fromStdString(settings.strSampleName));
-    if (m_pCode != nullptr) {
-        m_strCode = QString::fromStdString(settings.strSampleCode);
-        m_pCode->setText(m_strCode);
-        m_pCode->setShowMode(true);
-    }
+    showCode(QString::fromStdString(settings.strSampleCode));
     m_recent.setEntries(m_pFrame->records().recentSamples(recentNames));
     KeyboardPage::activating();
 }
@@ -59,6 +58,14 @@ void SamplePage::activated()
 {
     if (m_pCode != nullptr)
         m_pCode->setFocus();
+    m_reader.start();
+}
+
+// A label that is read later is meant for whoever is on screen then.
+void SamplePage::hideEvent(QHideEvent* pEvent)
+{
+    m_reader.stop();
+    KeyboardPage::hideEvent(pEvent);
 }
 
 bool SamplePage::event(QEvent* pEvent)
@@ -86,6 +93,8 @@ bool SamplePage::event(QEvent* pEvent)
         m_pFrame->moveTo("notes", true, true);
     } else if (isEnter(pEvent)) {
         takeCode();
+    } else if (pEvent->type() == EVENT_LABEL_READ) {
+        takeLabel(static_cast<ZELStringEvent&>(*pEvent)); // its number tells the class
     } else {
         return KeyboardPage::event(pEvent);
     }
@@ -124,6 +133,26 @@ void SamplePage::takeCode()
     }
     m_pCode->setShowMode(true);
     m_pCode->update();
+}
+
+void SamplePage::showCode(const QString& strCode)
+{
+    m_strCode = strCode;
+    if (m_pCode == nullptr)
+        return;
+    m_pCode->setText(strCode);
+    m_pCode->setShowMode(true);
+    m_pCode->update();
+}
+
+// A label without a name leaves the one that has been typed.
+void SamplePage::takeLabel(ZELStringEvent& label)
+{
+    showCode(QString::fromStdString(label.getString(1)));
+    const QString strName = QString::fromStdString(label.getString(2)).left(nameLength);
+    if (!strName.isEmpty())
+        showTypedText(strName);
+    SoundFactory::getInstance()->playCompleteSound();
 }
 
 void SamplePage::keep()

@@ -176,6 +176,8 @@ void SamplesPage::show()
 
 void SamplesPage::askToClear()
 {
+    if (m_picked.empty())
+        return; // a query without a name stands for all samples
     RecordQuery query;
     query.samples = pickedSamples();
     const std::vector<Record> records = m_pFrame->records().records(query);
@@ -184,7 +186,8 @@ void SamplesPage::askToClear()
                           "@clear.note");
     if (dialog.exec() != QuestionDialog::yes)
         return;
-    m_pFrame->records().remove(records);
+    if (!tryToChange("@clear.failed", [&] { return m_pFrame->records().remove(records); }))
+        return;
     m_picked.clear();
     readSamples();
     fillList();

@@ -10,6 +10,7 @@
 #include "components/gauges/ZELRange.h"
 #include "components/pictures/ZELImageBox.h"
 #include "events/EventNumbers.h"
+#include "events/ZELRangeEvent.h"
 
 using PANFx::Components::ZELBubbleDialog;
 using PANFx::Components::ZELCheckButton;
@@ -23,6 +24,13 @@ using PANFx::Components::ZELTab;
 namespace {
 
 const char* const tabNames[] = {"operation", "sound", "sensor", "system"};
+
+/// Whether this is a check or radio button, which has changed its state before it reports.
+bool isSetting(const std::string& strID)
+{
+    return strID == "touch_sound" || strID == "auto_hold" || strID == "alarm" ||
+           strID == "stirrer" || strID.empty(); // the radio buttons come without an id
+}
 
 } // namespace
 
@@ -45,16 +53,14 @@ bool SettingsPage::event(QEvent* pEvent)
 {
     if (pEvent->type() == EVENT_TAB_DOWN)
         placeHelp();
-    else if (pEvent->type() == EVENT_RANGE_CHANGED)
-        readSettings();
-    else if (pEvent->type() == EVENT_MOUSE_UP)
-        touch(touchedID(pEvent));
-    else
+    else if (pEvent->type() == EVENT_RANGE_CHANGED && rangeEvent(pEvent) != nullptr)
+        changeRange(*rangeEvent(pEvent));
+    else if (pEvent->type() != EVENT_MOUSE_UP || !touch(touchedID(pEvent)))
         return InstrumentPage::event(pEvent);
     return true;
 }
 
-void SettingsPage::touch(const std::string& strID)
+bool SettingsPage::touch(const std::string& strID)
 {
     if (strID == "back")
         m_pFrame->moveBack(true);
@@ -68,8 +74,11 @@ void SettingsPage::touch(const std::string& strID)
         turnHelp();
     else if (strID == "calibrate")
         calibrate();
+    else if (isSetting(strID))
+        readSettings();
     else
-        readSettings(); // a check or radio button has changed its state before it reports
+        return false;
+    return true;
 }
 
 void SettingsPage::turnHelp()
@@ -106,6 +115,14 @@ void SettingsPage::calibrate()
     if (dialog.showAndWait() == CalibrationDialog::done)
         analyser().setCalibrated(m_pFrame->now().date());
     showValues();
+}
+
+// The event tells the step of its touch. The range itself may be further on by now, so that is what
+// is taken into force.
+void SettingsPage::changeRange(const ZELRangeEvent& change)
+{
+    m_logger.WriteInfo("[changeRange] %s: step %d", change.m_strID.c_str(), change.m_nValue);
+    readSettings();
 }
 
 bool SettingsPage::isChecked(const std::string& strButton)

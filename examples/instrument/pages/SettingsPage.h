@@ -7,6 +7,8 @@ class ZELBubbleDialog;
 class ZELTab;
 } // namespace PANFx::Components
 
+class ZELRangeEvent;
+
 /// How the instrument works, and what it is, on four tabs, each with its help.
 class SettingsPage : public InstrumentPage
 {
@@ -21,7 +23,8 @@ protected:
     void showValues() override;
 
 private:
-    void touch(const std::string& strID);
+    bool touch(const std::string& strID);
+    void changeRange(const ZELRangeEvent& change);
     bool isChecked(const std::string& strButton);
     void readSettings();
     void calibrate();

@@ -1,5 +1,6 @@
 #include "tour/Itinerary.h"
 
+#include "ComponentAccess.h"
 #include "InstrumentFrame.h"
 #include "tour/Screen.h"
 
@@ -20,7 +21,7 @@ Itinerary::Itinerary(InstrumentFrame& frame, Screen& screen, const QString& strD
     : StepList(screen)
     , m_frame(frame)
     , m_settings(frame, screen)
-    , m_typing(frame, screen)
+    , m_typing(frame, screen, m_database)
     , m_lists(frame, screen)
     , m_printing(frame, screen, strDir)
 {
@@ -33,6 +34,9 @@ Analyser& Itinerary::analyser()
 
 void Itinerary::firstLook()
 {
+    // a page that nobody has moved to from another one
+    add("first-language", "language", {{[this] { m_frame.moveTo("language", true, true); }, 0}});
+    add("first-language-chosen", "home", {tap("lang_en")});
     add("home", "home", {{[this] { m_frame.moveTo("home", true, true); }, 0}});
     add("home-pressed", "home", {press("measure")});
     add("measure", "measure", {release()});
@@ -100,6 +104,36 @@ void Itinerary::saving()
     add("back", "home", {tap("back")});
 }
 
+// What nobody stirs is no water for the oxygen sensor.
+void Itinerary::fault()
+{
+    claim(add("fault", "measure",
+              {goHome(), tap("settings"), tap("tab_operation"), tap("stirrer"), goHome(),
+               tap("measure"), tap("oxygen"), tick("", 5)}),
+          "the fault is told, and nothing can be saved", [this] {
+              return m_screen.shows("Stirrer off") && !m_screen.isEnabled("save") &&
+                     !m_screen.isEnabled("mean");
+          });
+    claim(add("fault-elsewhere", "measure", {tap("cond")}), "it is not that of this channel",
+          [this] { return !m_screen.shows("Stirrer off") && !m_screen.isEnabled("save"); });
+    claim(add("fault-over", "measure",
+              {goHome(), tap("settings"), tap("stirrer"), goHome(), tap("measure"), tap("oxygen"),
+               tick("", 1)}),
+          "the readings can be saved again",
+          [this] { return !m_screen.shows("Stirrer off") && m_screen.isEnabled("save"); });
+    add("fault-left", "home", {goHome()});
+}
+
+StepList::Action Itinerary::pauseStirrer(bool bPaused)
+{
+    return {[this, bPaused] {
+                Settings settings = m_frame.settings();
+                settings.bStirrerPaused = bPaused;
+                m_frame.setSettings(settings);
+            },
+            0};
+}
+
 void Itinerary::addLanguage(const std::string& strName, const std::string& strLocale)
 {
     m_strLocale = strLocale;
@@ -115,7 +149,6 @@ void Itinerary::korean()
     // the limit stays low, so that what is said then is to be seen in each language
     add("korean", "home", {release(), {[this] { analyser().setLimit(0, lowLimit); }, 0}});
     looksIn("korean", m_strLocale);
-    add("korean-language", "language", {goHome(), tap("language")});
     append(m_printing.inLanguage("korean", m_strLocale));
 }
 
@@ -124,7 +157,14 @@ void Itinerary::looksIn(const std::string& strName, const std::string& strLocale
     const std::string strPrefix = strName + "-";
     claim(add(strPrefix + "measure", "measure", {tap("measure")}), "the reading is above its limit",
           [this] { return analyser().channels()[0].isAboveLimit(); });
-    add(strPrefix + "limits", "limits", {tap("limit")});
+    append(m_printing.looksIn(strName, strLocale));
+    claim(add(strPrefix + "fault", "measure", {pauseStirrer(true), tap("oxygen"), tick("", 5)}),
+          "the fault is told", [this] { return m_screen.shows(localText("@fault.still")); });
+    add(strPrefix + "not-saved", "measure",
+        {pauseStirrer(false), tick("", 1), {[this] { m_database.hold(); }, 0}, tap("save")})
+        .strDialog = "question";
+    add(strPrefix + "limits", "limits",
+        {{[this] { m_database.release(); }, 0}, tap("no"), tap("limit")});
     add(strPrefix + "averaging", "measure", {tap("back"), tap("cond"), tap("mean"), tick("", 3)});
     add(strPrefix + "results", "results", {goHome(), tap("results")});
     add(strPrefix + "question", "results", {tap("clear")}).strDialog = "question";
@@ -134,8 +174,11 @@ void Itinerary::looksIn(const std::string& strName, const std::string& strLocale
         .strDialog = "calibration";
     add(strPrefix + "clock", "clock", {tap("cancel"), tap("tab_system"), tap("go_clock")});
     add(strPrefix + "network", "network", {tap("back"), tap("go_network")});
-    add(strPrefix + "sample", "sample", {tap("back"), goHome(), tap("measure"), tap("sample")});
+    add(strPrefix + "notes", "notes",
+        {tap("back"), goHome(), tap("measure"), tap("sample"), tap("go_notes")});
+    add(strPrefix + "sample", "sample", {tap("back")});
     append(m_lists.stepsIn(strName, strLocale));
+    add(strPrefix + "language", "language", {goHome(), tap("language")});
 }
 
 void Itinerary::otherLanguages()
@@ -172,6 +215,7 @@ std::vector<TourStep> Itinerary::steps()
     settings();
     calibration();
     saving();
+    fault();
     append(m_settings.steps());
     append(m_typing.steps());
     append(m_lists.steps());

@@ -4,6 +4,7 @@
 #include "tour/PrintItinerary.h"
 #include "tour/SettingsItinerary.h"
 #include "tour/StepList.h"
+#include "tour/TourDatabase.h"
 #include "tour/TypingItinerary.h"
 
 #include <string>
@@ -29,6 +30,7 @@ private:
     void settings();
     void calibration();
     void saving();
+    void fault();
     void korean();
     void otherLanguages();
     void clearing();
@@ -40,7 +42,11 @@ private:
 
     Analyser& analyser();
 
+    /// Pauses the stirrer or lets it run, without a way through the settings.
+    Action pauseStirrer(bool bPaused);
+
     InstrumentFrame& m_frame;
+    TourDatabase m_database;
     SettingsItinerary m_settings;
     TypingItinerary m_typing;
     ListItinerary m_lists;

@@ -1,5 +1,6 @@
 #include "tour/PrintItinerary.h"
 
+#include "ComponentAccess.h"
 #include "InstrumentFrame.h"
 #include "pages/ResultsPage.h"
 #include "report/Report.h"
@@ -118,7 +119,31 @@ void PrintItinerary::picture()
     step.strDialog = "picture";
     claim(step, "the file that the panel tells of has the picture of the page",
           [this] { return isPictureOfScreen(); });
+    TourStep& other = add("picture-settings", "settings",
+                          {tap("close"), goHome(), tap("settings"), tap("camera")});
+    other.strDialog = "picture";
+    claim(other, "another page has a camera too", [this] { return isPictureOfScreen(); });
     add("picture-closed", "results", {tap("close"), goHome(), tap("results")});
+}
+
+bool PrintItinerary::fitsAll()
+{
+    const char* const ends[] = {"@printing", "@printed", "@print.cancelled", "@print.failed"};
+    for (const std::string strEnd : ends) {
+        for (const std::string& strNote : {strEnd + ".note", std::string("@stopping")}) {
+            m_screen.write("title", localText(strEnd));
+            m_screen.write("note", localText(strNote));
+            if (!m_screen.cutText().empty())
+                return false;
+        }
+    }
+    m_screen.write("note", localText("@print.failed.note"));
+    return true;
+}
+
+void PrintItinerary::removePicture()
+{
+    QFile::remove(QFile::decodeName(PANFx::Common::systemPath(m_screen.dialogTag()).c_str()));
 }
 
 std::size_t PrintItinerary::selected()
@@ -177,18 +202,25 @@ std::vector<TourStep> PrintItinerary::steps()
     return takeSteps();
 }
 
+std::vector<TourStep> PrintItinerary::looksIn(const std::string& strName,
+                                              const std::string& strLocale)
+{
+    m_strLocale = strLocale;
+    add(strName + "-picture", "measure", {tap("camera")}).strDialog = "picture";
+    TourStep& step = add(
+        strName + "-print-unplugged", "results",
+        {{[this] { removePicture(); }, 0}, tap("close"), goHome(), tap("results"), tap("print")});
+    claimTag(step, "the panel tells that nothing is printed, and has room for all else", "failed");
+    step.isTrue = [this, isFailed = step.isTrue] { return isFailed() && fitsAll(); };
+    add(strName + "-print-closed", "measure", {tap("cancel"), goHome(), tap("measure")});
+    return takeSteps();
+}
+
 std::vector<TourStep> PrintItinerary::inLanguage(const std::string& strName,
                                                  const std::string& strLocale)
 {
     m_strLocale = strLocale;
-    claimTag(add(strName + "-print-unplugged", "results",
-                 {goHome(),
-                  goHome(),
-                  tap("results"),
-                  {[this] { m_printer.unplug(); }, 0},
-                  tap("print")}),
-             "the panel tells that nothing is printed", "failed");
-    add(strName + "-print-closed", "results", {tap("cancel")});
+    add(strName + "-to-print", "results", {goHome(), goHome(), tap("results")});
     printed(strName + "-", "paper-" + strLocale + ".png");
     return takeSteps();
 }

@@ -22,6 +22,10 @@ public:
     /// Prints in a language that is in force then; begins on any page, ends on the results.
     std::vector<TourStep> inLanguage(const std::string& strName, const std::string& strLocale);
 
+    /// A look at the dialogs of printing and of a picture in the language that is in force, from
+    /// the page of the readings on, to which it returns.
+    std::vector<TourStep> looksIn(const std::string& strName, const std::string& strLocale);
+
 private:
     void failures();
     void cancelled();
@@ -37,10 +41,14 @@ private:
     /// What the popup tag of the dialog must be, in time for a whole report.
     void claimTag(TourStep& step, const std::string& strClaim, const std::string& strTag);
 
+    /// Whether the dialog has room for all that it can tell. Afterwards it tells the last of it.
+    bool fitsAll();
+
     std::size_t selected();
     int reportRows();
     bool isWholeReport();
     bool isPictureOfScreen();
+    void removePicture();
 
     InstrumentFrame& m_frame;
     QString m_strDir;

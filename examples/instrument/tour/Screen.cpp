@@ -2,6 +2,7 @@
 
 #include "ComponentAccess.h"
 #include "InstrumentFrame.h"
+#include "tour/PaintedTexts.h"
 
 #include "components/ZELComponent.h"
 #include "components/buttons/ZELImageButton.h"
@@ -77,6 +78,21 @@ QWidget* Screen::top()
 QImage Screen::picture()
 {
     return top()->grab().toImage();
+}
+
+bool Screen::shows(const std::string& strText)
+{
+    return paintedTexts(*top()).strAll.contains(QString::fromStdString(strText));
+}
+
+std::string Screen::cutText()
+{
+    return paintedTexts(*top()).strCut.toStdString();
+}
+
+void Screen::write(const std::string& strLabel, const std::string& strText)
+{
+    showText(find(strLabel), strText);
 }
 
 void Screen::activate()

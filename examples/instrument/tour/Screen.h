@@ -36,6 +36,15 @@ public:
 
     QImage picture();
 
+    /// Whether a text is to be read anywhere on it.
+    bool shows(const std::string& strText);
+
+    /// A text that is wider than its place, or "".
+    std::string cutText();
+
+    /// Writes a text into a label.
+    void write(const std::string& strLabel, const std::string& strText);
+
     /// Gives the window on top the keys, as a window system does once another one has closed.
     void activate();
 

@@ -17,11 +17,6 @@ SettingsItinerary::SettingsItinerary(InstrumentFrame& frame, Screen& screen)
 {
 }
 
-SettingsItinerary::Action SettingsItinerary::wait(int nMilliseconds)
-{
-    return {[] {}, nMilliseconds};
-}
-
 SettingsItinerary::Action SettingsItinerary::look(const std::string& strGauge)
 {
     return {[this, strGauge] {

@@ -32,8 +32,6 @@ private:
     void notes();
     void scrolling();
 
-    static Action wait(int nMilliseconds);
-
     /// Notes how many results there are, and a gauge, for what a later claim compares with.
     Action look(const std::string& strGauge);
 

@@ -56,6 +56,11 @@ StepList::Action StepList::goHome()
             0};
 }
 
+StepList::Action StepList::wait(int nMilliseconds)
+{
+    return {[] {}, nMilliseconds};
+}
+
 StepList::Actions StepList::taps(const std::string& strPrefix, const std::string& strKeys)
 {
     Actions actions;

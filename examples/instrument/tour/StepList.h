@@ -46,6 +46,7 @@ protected:
     Action press(const std::string& strID, int nTime = 0);
     Action release();
     Action goHome();
+    static Action wait(int nMilliseconds);
     Action tick(const std::string& strID, int nTicks);
 
     /// Touches one key after the other; a key's id is the prefix and one character.

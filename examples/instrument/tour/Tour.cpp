@@ -124,6 +124,9 @@ std::string Tour::fault(const QImage& image)
         return "the locale is \"" + strLocale + "\", not \"" + step.strLocale + "\"";
     if (step.isTrue && !step.isTrue())
         return "it is not true that " + step.strClaim;
+    const std::string strCut = m_screen.cutText();
+    if (!strCut.empty())
+        return "there is no room for the text \"" + strCut + "\"";
     if (isPlain(image))
         return "nothing is to be seen on page " + strPage;
     return "";

@@ -19,8 +19,8 @@ public:
     Tour(InstrumentFrame& frame, const QString& strDir);
 
     /// Runs the application's event loop until the end of the tour. True if every step came to its
-    /// page and its dialog, in its language, kept its claim, and left a picture with something on
-    /// it.
+    /// page and its dialog, in its language, kept its claim, had room for all its texts, and left a
+    /// picture with something on it.
     bool run();
 
 private:

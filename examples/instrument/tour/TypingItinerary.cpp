@@ -2,6 +2,7 @@
 
 #include "InstrumentFrame.h"
 #include "tour/Screen.h"
+#include "tour/TourDatabase.h"
 
 #include <cmath>
 #include <map>
@@ -24,9 +25,10 @@ Actions operator+(Actions first, const Actions& second)
 
 } // namespace
 
-TypingItinerary::TypingItinerary(InstrumentFrame& frame, Screen& screen)
+TypingItinerary::TypingItinerary(InstrumentFrame& frame, Screen& screen, TourDatabase& database)
     : StepList(screen)
     , m_frame(frame)
+    , m_database(database)
 {
 }
 
@@ -222,11 +224,49 @@ void TypingItinerary::scanned()
               return m_frame.settings().strSampleName == strName &&
                      m_frame.settings().strSampleCode == strCode;
           });
-    claim(add("sample-saved", "results", {tap("save"), goHome(), tap("results")}),
-          "the result has the name", [this, strName] {
+    refused(strName);
+    claim(add("sample-saved", "results", {goHome(), tap("results")}), "the result has the name",
+          [this, strName] {
               return m_frame.records().recentSamples(1) == std::vector{strName} &&
                      m_frame.settings().strSampleName.empty();
           });
+}
+
+// While another program holds the database, a measurement keeps its name until it is stored.
+void TypingItinerary::refused(const std::string& strName)
+{
+    const Action hold = {[this] { m_database.hold(); }, 0};
+    const Action release = {[this] { m_database.release(); }, 0};
+    const auto isStored = [this, strName] { return m_frame.records().count({strName}) == 1; };
+    add("not-saved", "measure", {hold, tap("save")}).strDialog = "question";
+    claim(add("not-saved-no", "measure", {release, tap("no")}), "name and code are still there",
+          [this, strName, isStored] {
+              const Settings& settings = m_frame.settings();
+              return !isStored() && settings.strSampleName == strName &&
+                     !settings.strSampleCode.empty() && m_screen.text("sample") == strName;
+          });
+    add("not-saved-again", "measure", {hold, tap("save")}).strDialog = "question";
+    claim(add("saved-late", "measure", {release, tap("yes")}), "it is stored after all", isStored);
+}
+
+// A label reader tells code and name, and a label without a name leaves the one that is there.
+void TypingItinerary::labels()
+{
+    const auto isRead = [this](const std::string& strCode, const std::string& strName) {
+        return [this, strCode, strName] {
+            return m_screen.text("barcode") == strCode && m_screen.text("name") == strName;
+        };
+    };
+    claim(add("label-read", "sample",
+              {goHome(),
+               tap("measure"),
+               tap("sample"),
+               {[this] { m_reader.read("4006381333948;Lake west"); }, 0}}),
+          "the fields have its code and its name", isRead("4006381333948", "Lake west"));
+    claim(add("label-nameless", "sample", {{[this] { m_reader.read("4006381333955"); }, 0}}),
+          "the code is another one", isRead("4006381333955", "Lake west"));
+    claim(add("label-pulled-off", "measure", {{[this] { m_reader.unplug(); }, 0}, tap("back")}),
+          "nothing is kept", [this] { return m_frame.settings().strSampleName.empty(); });
 }
 
 std::vector<TourStep> TypingItinerary::steps()
@@ -242,5 +282,6 @@ std::vector<TourStep> TypingItinerary::steps()
     erased();
     korean();
     scanned();
+    labels();
     return takeSteps();
 }

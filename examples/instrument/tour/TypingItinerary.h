@@ -1,15 +1,18 @@
 #pragma once
 
 #include "tour/StepList.h"
+#include "tour/TourReader.h"
 
 class InstrumentFrame;
+class TourDatabase;
 
 /// The part of the tour on which values and texts are typed, with a touch for every key. It
-/// begins on any page but one and ends on the results.
+/// begins on any page but one and ends on the readings.
 class TypingItinerary : private StepList
 {
 public:
-    TypingItinerary(InstrumentFrame& frame, Screen& screen);
+    /// The tour holds the database that is given.
+    TypingItinerary(InstrumentFrame& frame, Screen& screen, TourDatabase& database);
 
     /// They refer to the itinerary and must not outlive it.
     std::vector<TourStep> steps();
@@ -26,6 +29,8 @@ private:
     void erased();
     void korean();
     void scanned();
+    void refused(const std::string& strName);
+    void labels();
 
     /// Adds a step that empties a field and types into it on the pad; then it must hold the text.
     void addEntry(const std::string& strPage, const std::string& strName,
@@ -45,4 +50,6 @@ private:
     Action tapZero();
 
     InstrumentFrame& m_frame;
+    TourDatabase& m_database;
+    TourReader m_reader;
 };
