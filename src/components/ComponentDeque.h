@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <initializer_list>
 #include <memory>
 
 namespace PANFx::Components {
@@ -70,6 +71,8 @@ public:
     reverse_iterator rend() { return present().rend(); }
     const_reverse_iterator rbegin() const { return present().rbegin(); }
     const_reverse_iterator rend() const { return present().rend(); }
+    const_reverse_iterator crbegin() const { return rbegin(); }
+    const_reverse_iterator crend() const { return rend(); }
     /// @}
 
     /// @{
@@ -96,7 +99,29 @@ public:
     /** Puts an entry in, null too; the component stays its owner's. */
     void push_front(ZELComponent* pComponent) { made().push_front(pComponent); }
     void push_back(ZELComponent* pComponent) { made().push_back(pComponent); }
+    reference emplace_front(ZELComponent* pComponent) { return made().emplace_front(pComponent); }
+    reference emplace_back(ZELComponent* pComponent) { return made().emplace_back(pComponent); }
     /// @}
+
+    /// @{
+    /** Takes these entries in place of its own; the components are left alone. */
+    template <class Iterator>
+    void assign(Iterator first, Iterator last)
+    {
+        *this = Deque(first, last);
+    }
+    void assign(std::initializer_list<ZELComponent*> components) { *this = Deque(components); }
+    /// @}
+
+    /** Takes entries out at the end, or puts @p pComponent in there until there are @p nSize. */
+    void resize(size_type nSize, ZELComponent* pComponent = nullptr)
+    {
+        if (nSize != size())
+            made().resize(nSize, pComponent);
+    }
+
+    /** Exchanges the entries; places in them stay valid. */
+    void swap(ComponentDeque& other) noexcept { m_pDeque.swap(other.m_pDeque); }
 
     /// @{
     /** Takes an entry out and deletes nothing. Not to be called on an empty deque. */
@@ -118,6 +143,15 @@ public:
 
     /** Takes all entries out and deletes no component. */
     void clear() { present().clear(); }
+
+    /// @{
+    /** Whether the entries are the same, in the same order. */
+    friend bool operator==(const ComponentDeque& a, const ComponentDeque& b)
+    {
+        return a.present() == b.present();
+    }
+    friend bool operator!=(const ComponentDeque& a, const ComponentDeque& b) { return !(a == b); }
+    /// @}
 
 private:
     Deque& made();

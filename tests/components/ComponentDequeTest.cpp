@@ -70,6 +70,28 @@ TEST_F(ComponentDequeTest, isReadBackwardsAndWhereItMayNotBeChanged)
     EXPECT_THROW(constant.at(3), std::out_of_range);
 }
 
+TEST_F(ComponentDequeTest, isFilledComparedAndExchangedAsAStandardOne)
+{
+    EXPECT_EQ(m_deque.emplace_back(&m_b), &m_b);
+    EXPECT_EQ(m_deque.emplace_front(&m_a), &m_a);
+    EXPECT_EQ(All(m_deque.crbegin(), m_deque.crend()), (All{&m_b, &m_a}));
+    ComponentDeque other;
+    other.assign({&m_a});
+    EXPECT_TRUE(m_deque != other);
+    other.resize(2, &m_b);
+    EXPECT_TRUE(m_deque == other);
+    m_deque.resize(1);
+    const All one = {&m_c};
+    other.assign(one.begin(), one.end());
+    m_deque.swap(other);
+    EXPECT_EQ(content(), (All{&m_c}));
+    EXPECT_EQ(All(other.begin(), other.end()), (All{&m_a}));
+    m_deque.resize(0);
+    EXPECT_TRUE(m_deque == ComponentDeque());
+    m_deque.resize(2);
+    EXPECT_EQ(content(), (All{nullptr, nullptr}));
+}
+
 TEST_F(ComponentDequeTest, insertsAndErasesAtAPlace)
 {
     m_deque.insert(m_deque.end(), &m_c);
