@@ -135,23 +135,6 @@ TEST_F(ZELPopupWindowRunTest, execDropsThePressesOfThePageBeneath)
     EXPECT_EQ(panel().takeTypes(), std::vector<int>{});
 }
 
-TEST_F(ZELPopupWindowRunTest, aDialogThatGoesInActivatingRunsByNeitherForm)
-{
-    class Short : public ZELPopupWindow
-    {
-    public:
-        using ZELPopupWindow::ZELPopupWindow;
-        void activating() override { delete this; }
-    };
-    for (const bool waits : {false, true}) {
-        writeLayout("ask", "<layout><Components/></layout>");
-        expectNoBackgroundLines();
-        auto* const shown = new Short("ask", nullptr);
-        shown->m_nPopupResult = 5;
-        EXPECT_EQ(waits ? shown->showAndWait() : shown->exec(), -1) << waits;
-    }
-}
-
 TEST_F(ZELPopupWindowRunTest, aDialogThatHasNothingToDoAtFirstRunsTheSame)
 {
     writeLayout("ask", "<layout><Components/></layout>");
@@ -370,6 +353,21 @@ TEST_F(ZELPopupWindowRunTest, deletedByItsOwnActivatingItLetsTheCallerGo)
     expectNoBackgroundLines(2);
     EXPECT_EQ((new Gone("ask", nullptr))->exec(), -1);
     EXPECT_EQ((new Gone("ask", nullptr))->showAndWait(), -1);
+}
+
+TEST_F(ZELPopupWindowRunTest, deletedInsteadOfBeingShownItLetsTheCallerGo)
+{
+    class Short : public ZELPopupWindow
+    {
+    public:
+        using ZELPopupWindow::ZELPopupWindow;
+        void setVisible(bool) override { delete this; }
+    };
+    writeLayout("ask", "<layout><Components/></layout>");
+    expectNoBackgroundLines();
+    auto* const shown = new Short("ask", nullptr);
+    shown->m_nPopupResult = 5;
+    EXPECT_EQ(shown->showAndWait(), -1);
 }
 
 TEST_F(ZELPopupWindowRunTest, deletedWhileItWaitsItLetsTheCallerGo)
