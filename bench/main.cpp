@@ -24,7 +24,7 @@ using namespace bench;
 
 constexpr const char* usage =
     "usage: qtpanfx_bench [--quick] [--only GROUP] [--save-pictures DIR]\n"
-    "  --quick          fewer turns, under 20 seconds\n"
+    "  --quick          fewer turns, rough figures\n"
     "  --only GROUP     one of those that are listed below\n"
     "  --save-pictures  leaves what each candidate painted in DIR\n"
     "Ends with 1 when a measurement is not valid; a missed goal is only marked.\n";
