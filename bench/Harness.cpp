@@ -35,6 +35,7 @@ void takeTurn(Course& course, const Plan& plan)
 void alternate(std::vector<Course>& courses, const Plan& plan)
 {
     std::vector<Course*> order;
+    order.reserve(courses.size());
     for (Course& course : courses)
         order.push_back(&course);
     std::mt19937 random(1); // the same orders in every run

@@ -122,8 +122,10 @@ Page listPage(const std::string& name)
 
 std::vector<std::string> cellTexts(int page)
 {
+    constexpr int cells = Site::listRows * Site::listColumns;
     std::vector<std::string> texts;
-    for (int i = 0; i < Site::listRows * Site::listColumns; ++i)
+    texts.reserve(cells);
+    for (int i = 0; i < cells; ++i)
         texts.push_back(std::to_string(page) + "." + std::to_string(i) + " mmol/l");
     return texts;
 }

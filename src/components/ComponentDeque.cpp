@@ -11,7 +11,9 @@ ComponentDeque::ComponentDeque(const ComponentDeque& other)
 
 ComponentDeque& ComponentDeque::operator=(const ComponentDeque& other)
 {
-    return *this = other.present();
+    if (this != &other)
+        *this = other.present();
+    return *this;
 }
 
 ComponentDeque& ComponentDeque::operator=(const Deque& components)

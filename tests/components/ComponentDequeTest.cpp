@@ -130,3 +130,13 @@ TEST_F(ComponentDequeTest, sharesNothingWithAnother)
     EXPECT_TRUE(ComponentDeque().empty());
     EXPECT_EQ(content(), (All{&m_a, &m_b}));
 }
+
+TEST_F(ComponentDequeTest, keepsItsContentWhenItIsGivenItself)
+{
+    const ComponentDeque& itself = m_deque;
+    m_deque = itself;
+    EXPECT_TRUE(m_deque.empty());
+    m_deque = {&m_a, &m_b};
+    m_deque = itself;
+    EXPECT_EQ(content(), All({&m_a, &m_b}));
+}

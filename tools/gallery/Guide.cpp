@@ -24,7 +24,9 @@ const char* const introduction =
     "\n"
     "The pictures, styles and fonts are those of the example instrument. What no layout says, "
     "such\n"
-    "as the text of a field or the checked box of a row, an application has set.\n";
+    "as the text of a field or the checked box of a row, an application has set.\n"
+    "[A sample of the fonts](images/gallery/fonts.png) lies beside the pictures: where it comes\n"
+    "out alike, a test compares their look.\n";
 
 QStringList linesOf(const QString& path)
 {
@@ -119,10 +121,10 @@ QString pictureName(const std::string& strKeyword, const std::string& strState)
     return name + QStringLiteral(".png");
 }
 
-QString guide(const QString& layouts, const PictureSizes& sizes)
+QString guide(const QString& layouts, const std::vector<Room>& rooms, const PictureSizes& sizes)
 {
     QString text = QString::fromUtf8(introduction);
-    for (const Room& room : allRooms()) {
+    for (const Room& room : rooms) {
         text += QStringLiteral("\n## %1\n").arg(QString::fromStdString(room.name));
         for (const Exhibit& exhibit : room.exhibits)
             text += section(exhibit, layouts, sizes);

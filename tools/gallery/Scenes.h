@@ -31,7 +31,7 @@ struct Room
     std::vector<Exhibit> exhibits;
 };
 
-/** All 34 keywords, in the order of the reference. */
+/** All keywords of layout files, in the order of the reference. */
 std::vector<Room> allRooms();
 
 Room roomOfTexts();
