@@ -7,8 +7,9 @@ namespace PrinterEmulator {
 
 namespace {
 
-constexpr std::size_t mostAtOnce = 256;
+constexpr std::size_t mostAtOnce = 4096; // what a pseudo-terminal holds
 constexpr int waitMilliseconds = 5;
+constexpr int lateMilliseconds = 250; // by which a busy machine may hold this thread up
 constexpr int restMilliseconds = 20;
 constexpr int bitsOfByte = 10; // with start and stop bit
 
@@ -65,11 +66,18 @@ void Emulator::bringThrough(std::size_t bytes)
 {
     if (m_settings.baud == 0)
         return;
-    const std::chrono::milliseconds late(m_ranDry ? 0 : waitMilliseconds);
     const std::chrono::duration<double> time(static_cast<double>(bytes) * bitsOfByte /
                                              m_settings.baud);
-    m_lineFree =
-        std::max(m_lineFree, m_now - late) + std::chrono::duration_cast<Clock::duration>(time);
+    m_lineFree = m_now - late() + std::chrono::duration_cast<Clock::duration>(time);
+}
+
+// For how long bytes have come through since the last ones were taken.
+Emulator::Clock::duration Emulator::late() const
+{
+    if (m_ranDry)
+        return Clock::duration::zero();
+    return std::min<Clock::duration>(m_now - m_lineFree,
+                                     std::chrono::milliseconds(lateMilliseconds));
 }
 
 void Emulator::receive(const std::vector<std::uint8_t>& bytes)
@@ -101,9 +109,10 @@ std::size_t Emulator::mayTake()
     if (m_settings.baud > 0) {
         if (m_now < m_lineFree)
             return 0;
-        const auto perTick =
-            static_cast<std::size_t>(m_settings.baud / bitsOfByte) * waitMilliseconds / 1000;
-        most = std::min(most, std::max<std::size_t>(perTick, 1));
+        const std::chrono::duration<double> time =
+            late() + std::chrono::milliseconds(waitMilliseconds);
+        const auto come = static_cast<std::size_t>(time.count() * m_settings.baud / bitsOfByte);
+        most = std::min(most, std::max<std::size_t>(come, 1));
     }
     if (printer.behaviour().unplugAt)
         most = static_cast<std::size_t>(std::min<std::uint64_t>(

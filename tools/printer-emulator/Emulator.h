@@ -45,6 +45,7 @@ private:
     void waitAWhile();
     void takeBytes();
     void bringThrough(std::size_t bytes);
+    Clock::duration late() const;
     void receive(const std::vector<std::uint8_t>& bytes);
     void takeTheRest();
     std::size_t mayTake();
