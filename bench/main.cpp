@@ -157,16 +157,17 @@ void printHead(const LogSink& sink, bool realTime, bool quick)
 int runChildWork(const Options& options)
 {
     const Site site(options.site);
+    const auto number = [&options] { return std::stoi(options.childArgument); };
     if (options.child == "--memory-pages")
         childPageCycles(site, options.childArgument);
     else if (options.child == "--memory-locale")
-        childLocaleCycles(site, std::atoi(options.childArgument.c_str()));
+        childLocaleCycles(site, number());
     else if (options.child == "--touch")
-        childTouch(site, std::atoi(options.childArgument.c_str()));
+        childTouch(site, number());
     else if (options.child == "--cell-touch")
-        childCellTouch(site, std::atoi(options.childArgument.c_str()));
+        childCellTouch(site, number());
     else if (options.child == "--print")
-        childPrint(site, std::atoi(options.childArgument.c_str()));
+        childPrint(site, number());
     else
         childHeap(site, options.childArgument, options.page);
     return 0;

@@ -29,7 +29,7 @@ void hitOften()
 
 void askSystem()
 {
-    access("/", F_OK);
+    static_cast<void>(access("/", F_OK)); // the call is what counts
 }
 
 void proveNoSystemCall(Table& table)
@@ -103,8 +103,8 @@ void measureImageHit(Run& run)
     volatile int found = 0;
     const double floor = nanosecondsPerCall(
         [&map, &name, &found] {
-            const std::string copy = name; // the library takes names by value
-            found = map.find(copy)->second;
+            // a copy, since the library takes names by value
+            found = map.find(std::string(name))->second;
         },
         10000, 31);
     const double ours =
