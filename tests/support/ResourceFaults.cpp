@@ -6,15 +6,14 @@
 #include "common/tamfx/Node.h"
 #include "common/tamfx/NodeList.h"
 #include "common/tamfx/XmlDocument.h"
+#include "support/InFrontOf.h"
 
 #include <cstdlib>
 #include <cstring>
-#include <dlfcn.h>
 #include <new>
 #include <utility>
 
-// The operations as the compiler names them. Where these names change, nothing is called any
-// more, and the tests that count on it fail.
+// the operations as the compiler names them
 #define GET_NODE_LIST "_ZNK5TAMFx6Common3Xml11XmlDocument17getNodeListByNameEPKc"
 #define GET_NODE "_ZNK5TAMFx6Common3Xml8NodeList7getNodeEi"
 #define GET_CHILD_NODE "_ZNK5TAMFx6Common3Xml4Node12getChildNodeEi"
@@ -22,8 +21,6 @@
 #define LIST_ENTRY "_ZNK5TAMFx4Data10Collection9ArrayList2AtEi"
 #define SYSTEM_PATH                                                                                \
     "_ZN5PANFx6Common10systemPathERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE"
-
-#define IN_FRONT_OF(name) __asm__(name) __attribute__((visibility("default"), used))
 
 namespace PANFx::Testing {
 
@@ -37,15 +34,6 @@ using TAMFx::Data::Collection::ArrayList;
 using TAMFx::Data::Properties::FileProperty;
 
 ResourceFaults* active = nullptr;
-
-template <typename Function>
-Function next(const char* name)
-{
-    void* const found = dlsym(RTLD_NEXT, name);
-    if (!found)
-        std::abort();
-    return reinterpret_cast<Function>(found);
-}
 
 } // namespace
 
