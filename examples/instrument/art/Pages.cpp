@@ -156,6 +156,7 @@ void addPages(Album& album)
     album.add("page_sample", samplePage());
     album.add("pad_panel", padPanel());
     album.add("dialog_question", badgeDialog(bin(), coral));
+    album.add("dialog_retry", badgeDialog(bell(), coral));
     album.add("dialog_picture", badgeDialog(camera(), violet));
     album.add("dialog_calibration", waitDialog(flask()));
     album.add("dialog_print", waitDialog(printer()));

@@ -1,8 +1,8 @@
 #include "dialogs/QuestionDialog.h"
 
 QuestionDialog::QuestionDialog(InstrumentFrame* pFrame, const std::string& strTitle,
-                               const std::string& strNote)
-    : InstrumentDialog("question", pFrame)
+                               const std::string& strNote, const std::string& strLayout)
+    : InstrumentDialog(strLayout, pFrame)
 {
     showText(getSubComponent("title"), localText(strTitle));
     showText(getSubComponent("note"), localText(strNote));

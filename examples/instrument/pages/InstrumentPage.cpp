@@ -101,7 +101,8 @@ bool InstrumentPage::tryToChange(const std::string& strFailure, const std::funct
 {
     while (!change()) {
         SoundFactory::getInstance()->playWarningSound();
-        if (QuestionDialog(m_pFrame, strFailure, "@try_again").exec() != QuestionDialog::yes)
+        if (QuestionDialog(m_pFrame, strFailure, "@try_again", "retry").exec() !=
+            QuestionDialog::yes)
             return false;
     }
     return true;

@@ -162,7 +162,7 @@ void Itinerary::looksIn(const std::string& strName, const std::string& strLocale
           "the fault is told", [this] { return m_screen.shows(localText("@fault.still")); });
     add(strPrefix + "not-saved", "measure",
         {pauseStirrer(false), tick("", 1), {[this] { m_database.hold(); }, 0}, tap("save")})
-        .strDialog = "question";
+        .strDialog = "retry";
     add(strPrefix + "limits", "limits",
         {{[this] { m_database.release(); }, 0}, tap("no"), tap("limit")});
     add(strPrefix + "averaging", "measure", {tap("back"), tap("cond"), tap("mean"), tick("", 3)});

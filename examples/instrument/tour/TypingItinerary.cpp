@@ -238,14 +238,14 @@ void TypingItinerary::refused(const std::string& strName)
     const Action hold = {[this] { m_database.hold(); }, 0};
     const Action release = {[this] { m_database.release(); }, 0};
     const auto isStored = [this, strName] { return m_frame.records().count({strName}) == 1; };
-    add("not-saved", "measure", {hold, tap("save")}).strDialog = "question";
+    add("not-saved", "measure", {hold, tap("save")}).strDialog = "retry";
     claim(add("not-saved-no", "measure", {release, tap("no")}), "name and code are still there",
           [this, strName, isStored] {
               const Settings& settings = m_frame.settings();
               return !isStored() && settings.strSampleName == strName &&
                      !settings.strSampleCode.empty() && m_screen.text("sample") == strName;
           });
-    add("not-saved-again", "measure", {hold, tap("save")}).strDialog = "question";
+    add("not-saved-again", "measure", {hold, tap("save")}).strDialog = "retry";
     claim(add("saved-late", "measure", {release, tap("yes")}), "it is stored after all", isStored);
 }
 

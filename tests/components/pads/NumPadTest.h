@@ -26,6 +26,7 @@ class OpenPad : public Components::ZELNumPad
 public:
     using ZELNumPad::ZELNumPad;
 
+    using ZELNumPad::event;
     using ZELNumPad::m_bPopupMode;
     using ZELNumPad::m_fOpacity;
     using ZELNumPad::m_nBaseHeight;

@@ -206,8 +206,10 @@ TEST_F(ZELNumPadKeysTest, theSenderTellsTheKindOfKeyAndTheIdWhatItTypes)
 
 TEST_F(ZELNumPadKeysTest, anEmptyIdThrows)
 {
+    // straight to the pad: not every build of Qt lets an exception through, that for ARM doesn't
+    ZELEvent click(EVENT_MOUSE_UP, m_pad->key("num1"), "");
     try {
-        send(m_pad, EVENT_MOUSE_UP, m_pad->key("num1"), "");
+        m_pad->event(&click);
         ADD_FAILURE() << "nothing was thrown";
     } catch (const std::out_of_range& fault) {
         EXPECT_EQ(std::string(fault.what()).compare(0, 20, "basic_string::substr"), 0)
