@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QTextStream>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace gallery {
@@ -73,7 +74,7 @@ int picturesInARow(const Exhibit& exhibit, const PictureSizes& sizes)
     int width = 0;
     for (const Scene& scene : exhibit.scenes)
         width += sizes.at(pictureName(exhibit.keyword, scene.state)).width();
-    const int rows = (width + pageWidth - 1) / pageWidth;
+    const int rows = std::max((width + pageWidth - 1) / pageWidth, 1);
     return (static_cast<int>(exhibit.scenes.size()) + rows - 1) / rows;
 }
 
