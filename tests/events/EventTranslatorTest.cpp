@@ -8,6 +8,7 @@
 #include "events/ZELStringEvent.h"
 #include "events/ZELUpdateInfoEvent.h"
 #include "events/ZELUpdateStatusEvent.h"
+#include "support/EndThroughBase.h"
 #include "support/EventRecorder.h"
 #include "support/LogCapture.h"
 
@@ -198,20 +199,5 @@ TEST_F(EventTranslatorTest, forwardsAnEventWhoseSenderDied)
 TEST_F(EventTranslatorTest, canBeDerivedFromAndDeletedThroughItsBase)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<EventTranslator>);
-    class Own : public EventTranslator
-    {
-    public:
-        explicit Own(bool& gone)
-            : m_gone(gone)
-        {
-        }
-        ~Own() override { m_gone = true; }
-
-    private:
-        bool& m_gone;
-    };
-    bool gone = false;
-    std::unique_ptr<EventTranslator> translator = std::make_unique<Own>(gone);
-    translator.reset();
-    EXPECT_TRUE(gone);
+    EXPECT_TRUE(endsThroughItsBase<EventTranslator>());
 }

@@ -1,5 +1,6 @@
 #include "print/Capture.h"
 
+#include "support/EndThroughBase.h"
 #include "support/EventLoop.h"
 #include "support/FrameForTest.h"
 #include "support/PanelTest.h"
@@ -204,22 +205,7 @@ TEST_F(CaptureTest, SavesNothingWithoutAScreen)
 
 TEST_F(CaptureTest, CanBeMadeAndDeletedThroughItsBase)
 {
-    class Own : public Capture
-    {
-    public:
-        explicit Own(bool& gone)
-            : m_gone(gone)
-        {
-        }
-        ~Own() override { m_gone = true; }
-
-    private:
-        bool& m_gone;
-    };
-    bool gone = false;
-    std::unique_ptr<Capture> capture = std::make_unique<Own>(gone);
-    capture.reset();
-    EXPECT_TRUE(gone);
+    EXPECT_TRUE(endsThroughItsBase<Capture>());
 }
 
 TEST_F(CaptureTest, UsesTheNameAsItStands)
